@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! One column of a table or view.
+#pragma once
+
+#include <zbBrowserView/host/zbIBrowserDataProperty.h>
+#include <zbBrowserView/sqlite/Schema.h>
+#include <zbBrowserView/sqlite/Value.h>
+#include <zbBrowserView/sqlite/zbSqliteExport.h>
+
+#include <cstddef>
+#include <string>
+
+namespace zbsqlite {
+
+class Row;
+class Source;
+
+//! One column of a table or view: a data property. Lives as long as its source.
+//!
+//! All readers answer false, and leave the output as it was, for a null value, for a value that
+//! has no such form, and for an item of another source. `parent` plays no part.
+//!
+//! A painter that wants the stored value with its type asks `GetValue`; the readers convert.
+class ZBSQLITE_API Property final : public zbIBrowserDataProperty {
+public:
+    //! Made by the source; `column` must outlive the property.
+    Property(Source& source, Column const& column, std::size_t index)
+        : source_(&source)
+        , column_(&column)
+        , index_(index) {}
+
+    Source& GetSource() const { return *source_; }
+
+    std::string const& Name() const { return column_->name; }
+
+    //! What the schema says about the column.
+    Column const& Declaration() const { return *column_; }
+
+    //! 0-based place among `Source::Properties()`.
+    std::size_t Index() const { return index_; }
+
+    //! The value as it is stored. No copy is made; it is valid as long as the row.
+    //! Requires: a row of this property's source.
+    Value GetValue(Row const& row) const;
+
+    //! As above; null for an item that is not a row of this property's source.
+    Value GetValue(zbIBrowserDataItem const* item) const;
+
+    //! As `GetString`, but a blob is shown as an SQL literal, `x'00ff'`; of more than 32 bytes the
+    //! first 16 and their number, `x'00ff...' (1234 bytes)`.
+    bool GetDisplayText(zbIBrowserDataItem* item, zbIBrowserDataItem* parent,
+                        zbString& out) override;
+
+    //! A whole number in range, also one that is stored as a real or as text.
+    bool GetInteger(zbIBrowserDataItem* item, zbIBrowserDataItem* parent, int& out) override;
+    bool GetUnsigned(zbIBrowserDataItem* item, zbIBrowserDataItem* parent, unsigned& out) override;
+
+    //! A number (also as text) is true unless it is 0; "true" and "false" in any ASCII case.
+    bool GetBoolean(zbIBrowserDataItem* item, zbIBrowserDataItem* parent, bool& out) override;
+
+    //! Text without a copy. Null for a blob, at whose end there is no zero byte.
+    //! Numbers are written into a buffer of the property, valid until it is asked again.
+    char const* GetTextPointer(zbIBrowserDataItem* item, zbIBrowserDataItem* parent) override;
+
+    //! The text that SQL's cast to text gives; a blob's bytes as they stand.
+    bool GetString(zbIBrowserDataItem* item, zbIBrowserDataItem* parent, zbString& out) override;
+
+    //! A number, also one that is stored as text.
+    bool GetDouble(zbIBrowserDataItem* item, zbIBrowserDataItem* parent, double& out) override;
+
+    //! Of the item that was given to `DataCtrl::SetCurrentDataItem`. An integer becomes kind 3, or
+    //! kind 4 if it does not fit; a real 5; a text 7, a blob 7 with its bytes as they stand.
+    bool GetVariant(zbVariant& out) override;
+
+    //! Always false: the database is open for reading.
+    bool SetVariant(zbVariant value) override;
+
+private:
+    Source* source_;       // Not owned, never null.
+    Column const* column_; // Not owned, never null.
+    std::size_t index_;
+    std::string text_; // The last answer of GetTextPointer that was no text.
+};
+
+//! The text in which a value is shown; see `Property::GetDisplayText`. Empty for null.
+ZBSQLITE_API std::string ToDisplayText(Value const& value);
+
+} // namespace zbsqlite

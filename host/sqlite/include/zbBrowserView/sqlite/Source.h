@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! One table or view.
+#pragma once
+
+#include <zbBrowserView/host/zbIBrowserDataSourceSimple.h>
+#include <zbBrowserView/sqlite/Error.h>
+#include <zbBrowserView/sqlite/Property.h>
+#include <zbBrowserView/sqlite/Row.h>
+#include <zbBrowserView/sqlite/Schema.h>
+#include <zbBrowserView/sqlite/zbSqliteExport.h>
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zbsqlite {
+
+class DataCtrl;
+
+//! One table or view: a flat data source whose items are rows and whose data properties are
+//! columns. Its rows are loaded when they are first asked for, in one pass, and stay as they are
+//! as long as the source lives.
+class ZBSQLITE_API Source final : public zbIBrowserDataSourceSimple {
+public:
+    //! Made by the data control. `table` must outlive the source; `name` is unique in the control.
+    Source(DataCtrl& control, Table const& table, std::string name, std::size_t index);
+    Source(Source const&) = delete;
+    Source& operator=(Source const&) = delete;
+    ~Source();
+
+    //! What the schema says about the table.
+    Table const& Declaration() const { return table_; }
+
+    //! The columns of a row, in their order; hidden ones are left out.
+    std::span<Property> Properties() { return properties_; }
+    std::span<Property const> Properties() const { return properties_; }
+
+    //! Why the last attempt to load failed; null if it did not, or there was none.
+    Error const* LastError() const { return error_ ? &*error_ : nullptr; }
+
+    //! The loaded rows in the order in which the database gave them; empty before.
+    std::span<Row const> Rows() const;
+
+    //! What the loaded rows take in memory, all included.
+    std::size_t MemoryUsed() const;
+
+    //! The part of `MemoryUsed` that is texts and blobs themselves.
+    std::size_t TextBytes() const;
+
+    //! The row's name: its column called name, title, label or caption (in this order, in any
+    //! ASCII case), else its first text column, else its primary key (values joined by ", "),
+    //! else its rowid, else its number in the list, from 1.
+    //! Failure: false if the value is null; `out` stays.
+    bool GetRowName(Row const& row, std::string& out) const;
+
+    //! The columns that make a row's name; empty if none does, but the rowid or the number.
+    std::span<std::size_t const> NameColumns() const { return nameColumns_; }
+
+    //! 0-based place in `Rows()`. Requires: a row of this source.
+    std::size_t IndexOf(Row const& row) const;
+
+    //! The item as a row of this source, null if it is none. The item is not followed, so it may
+    //! have gone.
+    Row const* FindRow(zbIBrowserDataItem const* item) const;
+
+    //! Place among the control's sources.
+    std::size_t Index() const { return index_; }
+
+    DataCtrl& Control() const { return control_; }
+
+    //! `Control` gives the same object in its own type.
+    zbIBrowserDataCtrl* GetDataCtrl() override;
+    char const* GetName() const override { return name_.c_str(); }
+    zbBrowserTypeId GetTypeId() override;
+    bool IsDirty() const override { return isDirty_; }
+    bool GetFolderScriptText(zbIBrowserViewItemFreeFolder* folder, zbString& out) override;
+
+    //! ASCII case aside, as SQLite compares names.
+    Property* FindDataProperty(char const* name) override;
+
+    //! Does nothing: the database is open for reading. So does its twin.
+    void SetDataPropertyInteger(zbIBrowserDataItem* item, zbIBrowserDataProperty* property,
+                                int value) override;
+    void SetDataPropertyBoolean(zbIBrowserDataItem* item, zbIBrowserDataProperty* property,
+                                bool value) override;
+
+    void SetSortProperty(zbIBrowserDataProperty* property) override;
+
+    //! By `Compare` of the values. Decides nothing without a sort property, and for a property or
+    //! an item that is none of this data side's.
+    bool CompareBySortProperty(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) override;
+    bool CompareByDataProperty(zbIBrowserDataItem* a, zbIBrowserDataProperty* propertyOfA,
+                               zbIBrowserDataItem* b, zbIBrowserDataProperty* propertyOfB,
+                               int& cmp) override;
+
+    //! By `Compare` of the values that make the names, so that numbers stand in their order.
+    bool CompareByName(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) override;
+
+    //! By place in the list, and by source before that.
+    bool CompareById(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) override;
+
+    char const* GetListCaption() const override { return name_.c_str(); }
+
+    //! "table", "view", "virtual table", "shadow table" or "system table".
+    char const* GetTypeName() const override;
+    void OnConnected() override {}
+    void OnDisconnected() override {}
+    void GetFilterGroups(std::vector<zbIBrowserDataSourceSimple*>& out) override;
+    bool IsOfType(zbIBrowserDataSourceSimple* source) override;
+    void ClearDirty(bool dirty) override { isDirty_ = dirty; }
+
+    //! Loads the rows if that has not been done.
+    //! Failure: false; `LastError` says why, no row is kept, and the next call tries anew.
+    bool GetDataItems(std::vector<zbIBrowserDataItemSimple*>& out) override;
+
+    //! Constant time.
+    bool ContainsDataItem(zbIBrowserDataItemSimple* item) override;
+    bool AcceptsEmptySelection() override { return false; }
+
+private:
+    friend class Row;
+    struct RowStore;
+
+    void ChooseName();
+    bool ChooseNameByColumn(std::string_view name);
+    std::string_view FindRowidName() const;
+    bool Load();
+    std::unique_ptr<RowStore> ReadRows();
+    std::string LoadQuery() const;
+    std::string Place() const;
+    std::size_t RecordColumns() const;
+    Value ReadValue(std::byte const* record, std::size_t column) const;
+    std::size_t NameParts() const;
+    Value NamePart(Row const& row, std::size_t part) const;
+    Row const* AnyRow(zbIBrowserDataItem const* item) const;
+    Property const* AnyProperty(zbIBrowserDataProperty const* property) const;
+    static bool CompareValues(Row const* a, Property const* propertyOfA, Row const* b,
+                              Property const* propertyOfB, int& cmp);
+
+    DataCtrl& control_;
+    Table const& table_;
+    std::string name_;
+    std::size_t index_;
+    std::vector<Property> properties_;
+    std::vector<std::size_t> nameColumns_;
+    std::string_view rowidName_;             // Literal; empty if the rowid is not needed.
+    Property const* sortProperty_ = nullptr; // Not owned, may be null.
+    std::unique_ptr<RowStore> store_;        // Null until loaded.
+    std::optional<Error> error_;
+    bool isDirty_ = false;
+    bool isLoading_ = false;
+};
+
+} // namespace zbsqlite

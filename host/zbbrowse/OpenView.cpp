@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "zbbrowse/OpenView.h"
+
+#include "text/Output.h"
+#include "text/ViewReader.h"
+#include "zbbrowse/Complaint.h"
+#include "zbbrowse/RowValues.h"
+#include "zbbrowse/Suggestion.h"
+
+#include <zbBrowserView/zbBrowserView.h>
+#include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+namespace zbbrowse {
+
+namespace {
+
+std::string ViewName(Options const& options) {
+    if (!options.view.empty())
+        return options.view;
+    auto const stem = std::filesystem::path(options.file).stem().string();
+    return stem.empty() ? "view" : stem;
+}
+
+zbsqlite::HostOptions MakeHostOptions(Options const& options, std::atomic<bool> const& stop) {
+    zbsqlite::HostOptions result;
+    result.open.stop = &stop;
+    result.viewName = ViewName(options);
+    return result;
+}
+
+//! Folders in the order in which people look for things: what they made first, what SQLite made
+//! last.
+constexpr std::array kKinds{zbsqlite::TableKind::Table, zbsqlite::TableKind::Virtual,
+                            zbsqlite::TableKind::View, zbsqlite::TableKind::Shadow,
+                            zbsqlite::TableKind::System};
+
+std::string KindFolder(zbsqlite::Source& source) {
+    return std::string(source.GetTypeName()) + 's';
+}
+
+} // namespace
+
+OpenView::OpenView(Options const& options, std::atomic<bool> const& stop)
+    : options_(options)
+    , stop_(stop)
+    , host_(options.file, MakeHostOptions(options, stop)) {
+    host_.Data().SetProgress([this](zbsqlite::Source const& source, std::uint64_t rows) {
+        progress_.Show(source.GetName(), rows);
+    });
+    Resolve();
+}
+
+OpenView::~OpenView() = default;
+
+std::vector<std::string> OpenView::NamesByRank() const {
+    std::vector<std::string> names;
+    for (auto const kind : kKinds) {
+        for (auto const& source : host_.Data().Sources()) {
+            if (source->Declaration().kind == kind)
+                names.emplace_back(source->GetName());
+        }
+    }
+    return names;
+}
+
+zbsqlite::Source& OpenView::FindSource(std::string const& name) {
+    if (auto* const source = host_.Data().FindDataSourceSimple(name.c_str()))
+        return *source;
+    std::string message = options_.file + ": no list \"" + name + '"';
+    auto const nearest = FindNearest(name, NamesByRank());
+    for (std::size_t i = 0; i < nearest.size(); ++i)
+        message += (i == 0 ? "; nearest: " : ", ") + nearest[i];
+    throw Complaint(message);
+}
+
+void OpenView::Resolve() {
+    for (auto const& name : options_.lists) {
+        auto& source = FindSource(name);
+        if (std::find(lists_.begin(), lists_.end(), &source) == lists_.end())
+            lists_.push_back(&source);
+    }
+    for (auto const& folder : options_.folders) {
+        for (auto const& name : folder.lists)
+            Place(folder.path, FindSource(name));
+    }
+    if (options_.folders.empty() && options_.lists.empty())
+        PlaceByKind();
+    for (auto* const source : lists_) {
+        if (!IsPlaced(*source))
+            Place({KindFolder(*source)}, *source);
+    }
+}
+
+bool OpenView::IsPlaced(zbsqlite::Source const& source) const {
+    return std::any_of(placements_.begin(), placements_.end(),
+                       [&](auto const& placement) { return placement.source == &source; });
+}
+
+void OpenView::Place(Path path, zbsqlite::Source& source) {
+    placements_.push_back({std::move(path), &source});
+}
+
+void OpenView::PlaceByKind() {
+    for (auto const kind : kKinds) {
+        for (auto const& source : host_.Data().Sources()) {
+            if (source->Declaration().kind == kind)
+                Place({KindFolder(*source)}, *source);
+        }
+    }
+}
+
+void OpenView::Load() {
+    for (auto const& placement : placements_)
+        LoadList(MakeFolder(placement.path), *placement.source);
+    progress_.Clear();
+}
+
+zbIBrowserViewItemFreeFolder& OpenView::MakeFolder(Path const& path) {
+    auto* folder = host_.RootFolder();
+    for (auto const& name : path)
+        folder = host_.CreateFolder(folder, zbString(name));
+    return *folder;
+}
+
+void OpenView::LoadList(zbIBrowserViewItemFreeFolder& folder, zbsqlite::Source& source) {
+    if (folder.FindList(&source) != nullptr)
+        return;
+    host_.CreateList(&folder, source);
+    if (stop_.load())
+        throw zbtext::Stopped();
+}
+
+zbtext::Folder OpenView::ReadView(std::size_t rowLimit) const {
+    static RowValues const values;
+    return zbtext::ViewReader(host_.View(), values, rowLimit).ReadView();
+}
+
+std::vector<std::unique_ptr<zbtext::List>> OpenView::ReadLists(std::size_t rowLimit) const {
+    auto view = ReadView(rowLimit);
+    std::vector<std::unique_ptr<zbtext::List>> lists;
+    for (auto const* const source : lists_) {
+        if (auto list = zbtext::TakeList(view, source->GetName()))
+            lists.push_back(std::move(list));
+    }
+    return lists;
+}
+
+std::vector<std::string> OpenView::GetFaults() const {
+    std::vector<std::string> faults;
+    for (auto const& source : host_.Data().Sources()) {
+        if (auto const* const error = source->LastError())
+            faults.emplace_back(error->what());
+    }
+    return faults;
+}
+
+} // namespace zbbrowse

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! The command line of zbbrowse.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zbbrowse {
+
+enum class Format { Text, Json, JsonLines, Csv };
+
+//! A folder that the user asked for, and the lists to put into it.
+struct FolderOption {
+    std::vector<std::string> path; //!< From the top; at least one name, none empty.
+    std::vector<std::string> lists;
+};
+
+struct Options {
+    std::string file;
+    std::string view; //!< Empty: named after the file.
+    std::vector<std::string> lists;
+    std::vector<FolderOption> folders;
+    std::optional<std::size_t> limit;
+    Format format = Format::Text;
+    std::string output; //!< Empty: standard output.
+};
+
+//! Reads the command line. Nothing is given back where the program has done all that was asked of
+//! it
+//! (`--help`, `--version`) or can do nothing (a mistake, told on standard error); `status` is the
+//! exit status then.
+std::optional<Options> ReadOptions(int argc, char const* const* argv, int& status);
+
+//! Reads `PATH=NAME[,NAME...]`, where a backslash takes the meaning from the character behind it.
+//! Nothing if a part is missing or a name is empty.
+std::optional<FolderOption> ReadFolderOption(std::string const& text);
+
+} // namespace zbbrowse

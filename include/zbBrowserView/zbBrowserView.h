@@ -1,0 +1,485 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! zbBrowserView: a view of the old generation.
+//!
+//! | Theme                                        | Where                             |
+//! |----------------------------------------------|-----------------------------------|
+//! | 1. The object, its parts and its accessors   | src/view/zbBrowserView.cpp        |
+//! | 2. Data control and data sources             | zbBrowserView_DataSources.cpp     |
+//! | 3. Free folders, lists and trees             | zbBrowserView_Folders.cpp         |
+//! | 4. Data events and rebuilds                  | zbBrowserView_DataEvents.cpp      |
+//! | 5. From data items to view items             | zbBrowserView_Mapping.cpp         |
+//! | 6. Listing and expansion                     | zbBrowserView_Expansion.cpp       |
+//! | 7. Columns, styles, filter, menus, collector | zbBrowserView_Presentation.cpp    |
+//!
+//! One class answers all 123 operations of zbIBrowserView, hence the length of this file.
+#pragma once
+
+#include <zbBrowserView/platform/zbBrowserErrorReporter.h>
+#include <zbBrowserView/platform/zbExport.h>
+#include <zbBrowserView/platform/zbString.h>
+#include <zbBrowserView/zbIBrowserView.h>
+
+#include <cstdint>
+#include <memory>
+#include <set>
+#include <vector>
+
+class zbBrowserViewCtrl;
+class zbBrowserViewItemFreeFolder;
+class zbBrowserViewItemVirtualRoot;
+class zbIBrowserDataItem;
+class zbIBrowserDataItemHierarchical;
+class zbIBrowserDataItemSimple;
+
+namespace zbbrowser {
+class ViewsInfo;
+namespace detail {
+class DetachedLeaves;
+class OldViewContext;
+struct ConnectedSources;
+} // namespace detail
+} // namespace zbbrowser
+
+//! A named view of the old generation: free folders below a root, and in the folders lists of flat
+//! sources (trees are recorded, their items are not built yet).
+//!
+//! Made and owned by the controller: `zbBrowserViewCtrl::CreateView(name, false)`, found again with
+//! `OLD_FindView(name)`. The answers of `zbIBrowserView` that this generation does not offer are
+//! listed there. What is not said here about an operation of `zbIBrowserView` is said there.
+//!
+//! What works in this version: data sources, free folders, flat lists, listing, data events of flat
+//! items. What hangs on columns, styles, properties, sorting, filter, selection, menus, collector
+//! and view operations answers like a view that has no such handler: false, null, an empty output,
+//! or nothing. A list in a folder that groups its leaves is recorded and shows no items yet.
+//!
+//! Calling back: a slot or a host operation that runs inside an operation of the view may call any
+//! operation of it and may delete folders, lists, data items or the view itself. What goes is
+//! detached at once and freed when the outermost operation returns, so item pointers stay valid
+//! until then. An exception that is thrown through the view leaves it whole; only the guards of
+//! theme 4 and the busy mark of a folder stay set, as told there.
+//!
+//! Failure: an operation that answers false leaves a text in GetError() where one is named. Plain
+//! `char const*` texts are thrown for requests that cannot be, `zbString` for null and foreign
+//! objects where that is named; everything else answers false.
+class ZBBROWSERVIEW_API zbBrowserView : public zbIBrowserView, private zbBrowserErrorReporter {
+public:
+    //! \name Names of default properties and operations
+    //! \{
+    static char const* const DEFAULT_NAME_PROP;        //!< "default_name_prop"
+    static char const* const DEFAULT_ICON_NAME_PROP;   //!< "default_icon_name_prop"
+    static char const* const DEFAULT_BOLD_TEXT_PROP;   //!< "default_bold_text_prop"
+    static char const* const DEFAULT_ITALIC_TEXT_PROP; //!< "default_italic_text_prop"
+    static char const* const DEFAULT_COPYAT_OPERATION; //!< "default_copyat_operation"
+    static char const* const DEFAULT_MOVETO_OPERATION; //!< "default_moveto_operation"
+    //! \}
+
+    //! A copy has the name and the source lists of its own and shares everything else, which goes
+    //! with the original; nothing may be done with the copy after that. The library never copies.
+    //! Requires, for the assignment: no operation of the target is running.
+    zbBrowserView(zbBrowserView const& other);
+    zbBrowserView& operator=(zbBrowserView const& other);
+
+    //! \name 1. The object
+    //! \{
+
+    //! Text of the last failure; "" if there was none. Never null. Valid until the next failure.
+    using zbBrowserErrorReporter::GetError;
+    //! False after a failure that left a text.
+    using zbBrowserErrorReporter::GetState;
+
+    zbString const& GetName() const override;
+    zbIBrowserInfo* GetBrowserInfo() const override;
+    zbIBrowserViewCtrl* GetViewCtrl() const override;
+    zbBrowserViewCtrl* GetViewCtrlPtr() const;
+    //! The host's signal manager, asked of the manager anew. Null without one.
+    class zbBrowserSignalManager* GetSignalManager() const;
+    zbBrowserViewItemVirtualRoot* GetVirtualRoot() const;
+    zbIBrowserViewItemFreeFolder* GetRootFreeFolder() const override;
+    //! Stored for the host; the library never follows it. Null at first.
+    zbIBrowserViewItem* GetLastFindStartPoint() const;
+    void SetLastFindStartPoint(zbIBrowserViewItem* item);
+    bool IsNewView() const override;
+    //! \}
+
+    //! \name 2. Data control and data sources
+    //! \{
+
+    //! Ownership: the host's; it must outlive the view or be taken away before.
+    //! Null: takes the control away and does DataSourceDisconnectAll(true).
+    //! A different control does not disconnect the sources of the one before.
+    void SetDataCtrl(zbIBrowserDataCtrl* const dataCtrl) override;
+    zbIBrowserDataCtrl* GetDataCtrl() const override;
+
+    //! Takes the data control away if its name is exactly `name`. Dropped when called from within
+    //! itself or a data event.
+    void OnDataControlDeleted(char const* name) override;
+
+    //! Makes a source available to the folders of this view. Clears the error state.
+    //!
+    //! The data control is asked for the source's name first: a source that it does not know is
+    //! not connected, and neither is any without a data control. A connected flat source is told
+    //! `OnConnected`; a tree is told nothing, although both are told `OnDisconnected` later.
+    //! \return always true, also if nothing was connected; ask GetDataSourceSimple.
+    bool DataSourceConnect(zbIBrowserDataSourceHierarchical* source) override;
+    bool DataSourceConnect(zbIBrowserDataSourceSimple* source) override;
+
+    //! Takes the lists of the source out of all folders, then the source out of the view, then
+    //! tells it `OnDisconnected`. The name is compared regardless of case; a flat source goes
+    //! before a tree of the same name. False if neither has it.
+    bool DataSourceDisconnect(char const* name) override;
+
+    //! The same for all sources, flat ones first. With `removeContent` false the folders keep their
+    //! items, and the host must keep the sources alive that these show. Always true.
+    bool DataSourceDisconnectAll(bool removeContent) override;
+
+    zbIBrowserDataSourceSimple* GetDataSourceSimple(char const* name) const override;
+    zbIBrowserDataSourceSimple*
+    GetDataSourceSimple(zbIBrowserDataSourceSimple const* source) const override;
+    zbIBrowserDataSourceHierarchical* GetDataSourceHierarchical(char const* name) const override;
+    zbIBrowserDataSourceHierarchical*
+    GetDataSourceHierarchical(zbIBrowserDataSourceHierarchical const* source) const override;
+    //! Asks each connected tree, in the order of connection, for its type of that name.
+    zbIBrowserDataSourceSimple*
+    GetDataSourceSimpleFromHierarchical(char const* name) const override;
+    bool GetDataSourceSimpleList(std::vector<zbIBrowserDataSourceSimple*>& out) const override;
+    bool GetDataSourceHierarchicalList(
+        std::vector<zbIBrowserDataSourceHierarchical*>& out) const override;
+    //! \}
+
+    //! \name 3. Free folders, lists and trees
+    //! An interface pointer that is not a folder of this view is never followed: it is looked up.
+    //! FindList, FindTree and GetFreeFolderAbsolutePathName take folders of any view and follow it.
+    //! \{
+
+    //! The concrete folder behind an item. Null: for null and for anything else. O(1).
+    zbBrowserViewItemFreeFolder* FindFreeFolder(zbIBrowserViewItem const* item) const;
+    bool IsVirtualRoot(zbBrowserViewItemFreeFolder* const folder) const;
+
+    //! Shows a flat source in a folder. The third argument is not used.
+    //! The items are built at once: directly in the folder, or in a group if
+    //! `folder->GetGroupLeafs()` at this moment.
+    //! Signals: `ViewItemCreated` for each row, `ViewItemChanged(folder)` if there was any row,
+    //! `ViewContentChanged(view)`.
+    //! Failure: false for a folder of another view; false with the folder's error text if the list
+    //! is there already or the source does not give its items. In the latter case the list stays
+    //! recorded, and a rebuild tries again.
+    //! Cost: O(rows).
+    bool CreateList(zbIBrowserViewItemFreeFolder* const folder,
+                    zbIBrowserDataSourceSimple* const source, bool unused);
+
+    //! Takes a list out of a folder.
+    //! Signals: `ViewItemListDeleted` with its rows if there are any, `ViewItemChanged(folder)`,
+    //! `ViewContentChanged(view)`.
+    //! \return true for a folder that never showed anything. False, with the folder's error text,
+    //!         for a list that is not there.
+    bool DeleteList(zbIBrowserViewItemFreeFolder* const folder,
+                    zbIBrowserDataSourceSimple* const source);
+
+    //! The list itself if the folder shows it. The folder may belong to any view.
+    //! FindTree, its twin, compares names instead of pointers.
+    zbIBrowserDataSourceSimple* FindList(zbIBrowserViewItemFreeFolder* const folder,
+                                         zbIBrowserDataSourceSimple* const source);
+
+    //! Like CreateList and DeleteList, for a tree. Creating a tree that is there already keeps its
+    //! settings, connects it again and answers true.
+    bool CreateTree(zbIBrowserViewItemFreeFolder* const folder,
+                    zbIBrowserDataSourceHierarchical* const tree);
+    bool DeleteTree(zbIBrowserViewItemFreeFolder* const folder,
+                    zbIBrowserDataSourceHierarchical* const tree);
+    zbIBrowserDataSourceHierarchical* FindTree(zbIBrowserViewItemFreeFolder* const folder,
+                                               zbIBrowserDataSourceHierarchical* const tree);
+
+    //! Adds a folder behind the others of its parent. Names need not be unique among siblings.
+    //! Signals: `ViewItemCreated(folder)`, `FreeFolderCreated(parent)`, `ViewItemChanged(parent)`.
+    //! \return false for a parent that is null or not of this view
+    bool CreateFreeFolder(zbIBrowserViewItemFreeFolder const* parent,
+                          zbString const& name) override;
+
+    //! Removes a folder; with `deleteContent` all that is in it as well.
+    //! Signals: `ViewItemDeleted(folder)`, `ViewItemChanged(parent)`; nothing for the folders and
+    //! items in it.
+    //! Failure: throws `zbString` "Null pointer hit" for null, an unknown folder and the root;
+    //! `char const*` "Cannot delete non-empty folder. Use deletecontent flag or delete all content
+    //! first." if it has been used for content and has child folders or visible items;
+    //! "Attempt to delete non-empty free folder object" if child folders, lists or trees remain,
+    //! for instance lists all of whose items are hidden. The folder is as before.
+    //! Cost: O(what is in it).
+    bool DeleteFreeFolder(zbIBrowserViewItemFreeFolder* folder, bool deleteContent) override;
+
+    //! Folder and all folders below it: lists shown from now on are grouped or not, and the lists
+    //! and trees that are there move over.
+    //! Signals: those of the moves, then `FreeFolderStyleChanged(folder, true)`.
+    //! \return false for null or unknown, and for a folder that is busy with such a call already
+    bool SetFreeFolderGroupLeafs(zbIBrowserViewItemFreeFolder* folder, bool group) override;
+    //! Folder and all folders below it. No signal.
+    bool SetFreeFolderStyle(zbIBrowserViewItemFreeFolder* folder, bool style) override;
+    //! The folder alone. On a change all its items are built anew.
+    //! Signals: on a change those of the lists and trees that are built; then always
+    //! `FreeFolderStyleChanged(folder, true)`.
+    //! Failure: false with "Cannot show empty folders when grouping is disabled" on a change while
+    //! group leafs is off.
+    bool SetFreeFolderShowEmptyContainers(zbIBrowserViewItemFreeFolder* folder, bool show) override;
+    bool GetFreeFolderGroupLeafs(zbIBrowserViewItemFreeFolder* folder) const override;
+    bool GetFreeFolderStyle(zbIBrowserViewItemFreeFolder* folder) const override;
+    bool SetKeepChildrenFreeFoldersInOrderAsCreated(zbIBrowserViewItemFreeFolder* folder,
+                                                    bool keep) override;
+    //! \return false for null, unknown, busy, or a folder that never showed anything; else true
+    bool SetListCaption(zbIBrowserViewItem* const folder, zbIBrowserDataSourceSimple* const source,
+                        char const* caption) override;
+    bool MakeCaptionBold(zbIBrowserViewItemFreeFolder* const, zbIBrowserDataSourceSimple* const,
+                         char const*) override;
+    //! Failure: both throw `char const*` "NULL pointer hit" for a folder that is null, unknown or
+    //! never showed anything.
+    void SetSortingException(zbIBrowserViewItemFreeFolder* const folder,
+                             zbIBrowserDataSourceSimple* const source, int value) override;
+    void SetCreateExpandedItem(zbIBrowserViewItemFreeFolder* const folder,
+                               zbIBrowserDataSourceSimple* const source, int value) override;
+
+    //! Signals: `EmptyFoldersShown(view, show)`, also without a change.
+    void ShowEmptyFolders(bool show) override;
+    bool GetShowEmptyFoldersFlag() const override;
+    //! A question with effects: false means that `item` is a folder that is really empty and does
+    //! not want to be shown then, and it has been deselected. The flag of ShowEmptyFolders is not
+    //! looked at.
+    bool IsEmptyFolderCanBeShown(zbIBrowserViewItem* const item) override;
+
+    //! "/" for the root, "/a/b" for folder b in a. False for null, `out` untouched then.
+    bool GetFreeFolderAbsolutePathName(zbIBrowserViewItemFreeFolder const* folder,
+                                       zbString& out) const override;
+    //! The folders among the items. False at the first item that is null or of another view; `out`
+    //! then holds what was found before it.
+    bool
+    GetFreeFoldersFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                std::vector<zbIBrowserViewItemFreeFolder*>& out) const override;
+    //! \}
+
+    //! \name 4. Data events and rebuilds
+    //! The controller calls these; see there for when a host reports what. Each event of the first
+    //! group is dropped, not queued, when it comes from within another. If a slot or host operation
+    //! throws from within one, the guard stays set and all later ones are dropped.
+    //! \{
+    void OnDataItemCreated(zbIBrowserDataItemHierarchical* const item, bool flag);
+    void OnDataItemCreated(zbIBrowserDataItemSimple* const item, bool flag);
+    void OnDataItemDeleted(zbIBrowserDataItemHierarchical* const item);
+    void OnDataItemDeleted(zbIBrowserDataItemSimple* const item);
+    void OnDataItemUpdated(zbIBrowserDataItemHierarchical* const item);
+    void OnDataItemUpdated(zbIBrowserDataItemSimple* const item);
+    void OnDataItemReparented(zbIBrowserDataItemHierarchical* const item,
+                              zbIBrowserDataItemHierarchical* const newParent);
+    void OnDataItemsRebuildAll();
+
+    void OnDataSourceRenumbered(zbIBrowserDataSourceSimple* source);
+    void OnDataSourceRenumbered(zbIBrowserDataSourceHierarchical* source);
+    void OnAllDirtyDataItemsRebuild();
+    void OnAllDirtyDataListsRebuild();
+    void RedrawAllDirtyDataLists(bool unused);
+
+    //! The bare walks: no guard.
+    void CreateDataDependentViewItems(bool silent);
+    void CreateDataDependentViewItems(zbIBrowserDataItemSimple* item,
+                                      std::vector<zbIBrowserViewItem*>& created,
+                                      std::vector<zbIBrowserViewItem*>& parents, bool flag);
+    void CreateDataDependentViewItems(zbIBrowserDataItemHierarchical* item,
+                                      std::vector<zbIBrowserViewItem*>& created,
+                                      std::vector<zbIBrowserViewItem*>& parents, bool flag);
+    void DeleteDataDependentViewItems(zbIBrowserDataItemSimple* item, bool silent);
+    void DeleteDataDependentViewItems(zbIBrowserDataItemHierarchical* item, bool silent);
+
+    //! Deletes rows. Those that are not rows of this view, or no longer, are passed over.
+    //! Signals: `ViewItemListDeleted(items)` unless `silent`.
+    //! `items` comes back empty.
+    void DeleteViewItemList(std::vector<zbIBrowserViewItem*>& items, bool silent);
+    void OnGuiMapDeleted(zbString const& name);
+    //! \}
+
+    //! \name 5. From data items to view items
+    //! \{
+    void GetDataDependentViewItems(zbIBrowserDataItemSimple* item,
+                                   std::vector<zbIBrowserViewItem*>& found,
+                                   std::vector<zbIBrowserViewItem*>& parents);
+    void GetDataDependentViewItems(zbIBrowserDataItemHierarchical* item,
+                                   std::vector<zbIBrowserViewItem*>& found,
+                                   std::vector<zbIBrowserViewItem*>& parents);
+    void OnDataItemsSelected(std::vector<zbIBrowserDataItemSimple*> const& simple,
+                             std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical,
+                             bool clear);
+    void OnDataItemsSelected(std::vector<zbIBrowserDataItemHierarchical*> const& items, bool clear,
+                             bool first);
+    void OnDataItemsSelected(std::vector<zbIBrowserDataItem*> const& items, bool clear,
+                             bool noPanelUpdate);
+    void OnDataItemsDeselected(std::vector<zbIBrowserDataItemSimple*> const& simple,
+                               std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical);
+    void OnDataItemsDeselected(std::vector<zbIBrowserDataItem*> const& items);
+    void UpdatePreviousSelection() override;
+    void OnSelectionChangeFinished() override;
+    void DeselectAllViewItems() override;
+    void DeselectViewItem(zbIBrowserViewItem const* const item, bool recursive) override;
+    void SetDropItem(zbIBrowserViewItem* item) override;
+    void ResetDropItem() override;
+    zbIBrowserSelectionManager* GetSelectionManager() const override;
+    //! \}
+
+    //! \name 6. Listing and expansion
+    //! \{
+
+    //! The children of an item as they are to be shown: of a folder its child folders and then its
+    //! rows, both without the hidden ones.
+    //! \param out comes back with the children and nothing else
+    //! \return true if there is any. False for null, with `out` untouched, and for a row.
+    //! Cost: O(children); if no row is hidden, one block copy.
+    bool GetChildren(std::vector<zbIBrowserViewItem*>& out, zbIBrowserViewItem const* item) const;
+    void ExpandAscendants(std::vector<zbIBrowserViewItem*> const& items);
+    void ExpandAllItems() override;
+    void ExpandSelectedItems() override;
+    //! \return false for null or unknown, and with the folder's error text while it is busy
+    bool ExpandFreeFolder(zbIBrowserViewItemFreeFolder* folder, bool recursive) override;
+    bool ExpandFreeFolderList(zbIBrowserViewItemFreeFolder* folder,
+                              zbIBrowserDataSourceSimple* list, bool recursive) override;
+    void CollapseAllItems() override;
+    void CollapseSelectedItems() override;
+    bool CollapseFreeFolder(zbIBrowserViewItemFreeFolder* folder, bool recursive) override;
+    bool CollapseFreeFolderList(zbIBrowserViewItemFreeFolder* folder,
+                                zbIBrowserDataSourceSimple* list, bool recursive) override;
+    void ShowAscendants(zbIBrowserViewItem* const item) override;
+    zbIBrowserViewItem* GetNextViewItem(zbIBrowserViewItem const* const item, bool recursive,
+                                        bool forward) const override;
+    //! \}
+
+    //! \name 7. Columns, styles, filter, menus, collector
+    //! \{
+    bool CreateViewOperation(char const* name) override;
+    zbIBrowserCollector* GetCollectorHandler() const override;
+    zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewColumn* const column,
+                                      zbIBrowserViewItem* const item) const override;
+    bool SetViewItemStyle(zbIBrowserViewItem* const item) override;
+    bool IsTextBold(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
+                    bool& out) const override;
+    bool IsTextItalic(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
+                      bool& out) const override;
+    bool GetColumns(std::vector<zbIBrowserViewColumn*>& out) const override;
+    zbIBrowserViewColumn* GetDefaultColumn() const override;
+    zbIBrowserViewColumn* FindColumn(char const* name) const override;
+    zbIBrowserViewOperation* FindViewOperation(char const* name) const override;
+    void PerformVOPAttachedToGvnDOP(char const* name) override;
+    bool EditSelectedDataItem(char const* operation) override;
+    bool GetFilterNames(std::vector<zbIBrowserDataSourceSimple*>& out) const override;
+    bool GetCurrentFilter(std::vector<zbIBrowserDataSourceSimple*>& out) const override;
+    bool GetFilterByName(bool& out) const override;
+    bool GetFilterMatchCase(bool& out) const override;
+    bool GetFilterMatchWord(bool& out) const override;
+    bool GetFilterUseRegExp(bool& out) const override;
+    bool GetFilterLookupString(zbString& out) const override;
+    zbIBrowserPopupMenu* CreatePopupMenu(char const* name) override;
+    bool DeletePopupMenu(char const* name, bool recursive) override;
+    bool FindPopupMenu(zbIBrowserPopupMenu* const menu) const override;
+    zbIBrowserPopupMenu* FindPopupMenu(char const* name) const override;
+    bool GetAllPopupMenus(std::vector<zbIBrowserPopupMenu*>& out) override;
+    zbIBrowserViewColumn* GetSortedColumn() const override;
+    bool GetAscendingOrder(zbIBrowserViewColumn* const column, bool& out) const override;
+    bool GetSorting() const override;
+    bool GetItalic() const override;
+    zbIBrowserViewProperty* FindViewProperty(zbString const& name) const override;
+    void CreateViewProperty(char const* name) override;
+    bool DeleteViewProperty(zbIBrowserViewProperty* property) override;
+    bool GetViewPropertyList(std::vector<zbIBrowserViewProperty*>& out) const override;
+    void UpdateViewPropertyType(zbString const& name, ZBBROWSER_DATA_TYPE type) override;
+    void GetFilterMapNames(zbString& out) const override;
+    char const* GetCollectorGuiMapName() const override;
+    bool IsBrowserCollectorOn() const override;
+    bool IsBrowserColDisabled() const override;
+    void OnBrowserColPerform() override;
+    void ShowCollectorButton(ZBBROWSER_TCLAPI_KEYWORD keyword, bool show) override;
+    void OnBrowserColDeselected() override;
+    void OnBrowserColDisabled(bool disabled) override;
+    void ResetCollector() override;
+    void SetCollectorEnable(bool enable) override;
+    bool IsCollectorEnable() const override;
+    bool PerformCollectorOperation(ZBBROWSER_COLSEL_TYPE type) const override;
+    bool CreateIconColumn(char const* name, char const*, char const*) override;
+    bool CreateButtonColumn(char const* name, char const*) override;
+    bool CreateCheckBoxColumn(char const* name, char const*) override;
+    bool CreateTextBoxColumn(char const* name, char const*) override;
+    bool CreateComboBoxColumn(char const* name, char const*) override;
+    bool DeleteScriptedColumn(zbIBrowserViewColumn* column) override;
+    bool ShowScriptedColumn(zbIBrowserViewColumn* const column, bool show) override;
+    bool DeleteStyleElement(zbIBrowserStyleElement* element) override;
+    bool SetCurrentFilter(std::set<zbIBrowserDataSourceSimple*> const& sources) override;
+    bool SetFilterLookupString(zbString const& text) override;
+    bool SetFilterMatchCaseFlag(bool match) override;
+    bool SetFilterMatchWordFlag(bool match) override;
+    bool GetFilterMatchWordFlag(bool& out) override;
+    bool SetSorting(bool sorting) override;
+    bool SetAscendingOrder(zbIBrowserViewColumn* const column, bool ascending) override;
+    bool SetItalic(bool italic) override;
+    bool SetFilterGrouping(bool grouping) override;
+    bool GetFilterGrouping() const override;
+    bool RebuildFilterLists() const override;
+    zbIBrowserDataSourceSimple* GetFilterDataSource(char const* name) const override;
+    bool GetConnected(std::set<zbIBrowserDataReference*>& out) const override;
+    bool GetConnected(std::set<zbIBrowserDataSource*>& out) const override;
+    bool Connect(zbIBrowserDataReference* reference, bool connect) override;
+    bool Connect(zbIBrowserDataSource* source, bool connect) override;
+    zbIBrowserDataSource* FindConnected(char const* name) override;
+    //! \}
+
+protected:
+    zbBrowserView(zbBrowserViewCtrl const* ctrl, char const* name);
+    ~zbBrowserView() override;
+
+private:
+    friend class zbBrowserViewCtrl;
+    friend class zbbrowser::ViewsInfo;
+    friend class zbbrowser::detail::OldViewContext;
+
+    //! Deletes the view now or, if one of its operations is running, when that returns.
+    static void Destroy(zbBrowserView* view);
+
+    //! Deletes rows that their content has let go of already.
+    //! Signals: `ViewItemListDeleted` unless `silent`.
+    void DeleteViewItems(zbbrowser::detail::DetachedLeaves& leaves, bool silent);
+    friend class zbBrowserFreeFolderContent;
+
+    void CleanUp();
+    //! Forgets all data and content of a view that was given up while an operation of it is
+    //! running.
+    void LetGo();
+    void RemoveContentOf(zbIBrowserDataSourceSimple& source);
+    void RemoveContentOf(zbIBrowserDataSourceHierarchical& source);
+    bool FailWith(zbBrowserViewItemFreeFolder const& folder);
+    bool SetShowChildType(zbIBrowserViewItemFreeFolder* folder,
+                          zbIBrowserDataSourceHierarchical* tree, zbIBrowserDataSourceSimple* type,
+                          bool show);
+    bool Expand(zbIBrowserViewItem* item) const;
+    bool Collapse(zbIBrowserViewItem* item);
+    void Hide(zbIBrowserViewItem* item);
+    void ExpandAscendants(zbIBrowserViewItem const* item) const;
+    void OnUpdateViewSelection(std::vector<zbIBrowserViewItem*> const& items, bool select,
+                               bool clear);
+    void OnPopupSelection(bool flag);
+    bool IsViewItemSelected(zbIBrowserViewItem* item);
+    //! Work that is dropped when it comes from within other such work.
+    template <class Work>
+    void Guarded(Work work);
+    template <class DataItem>
+    void ReportCreated(DataItem* item, bool flag);
+    template <class DataItem>
+    void ReportDeleted(DataItem* item);
+    template <class DataItem>
+    void ReportUpdated(DataItem* item);
+    void RaiseChanged(std::vector<zbIBrowserViewItem*> const& items);
+    void RefreshFolders(zbBrowserViewItemFreeFolder& top);
+
+    zbString name_;
+    zbBrowserViewCtrl const* viewCtrl_;            // Not owned; null only in tests
+    zbIBrowserDataCtrl* dataCtrl_ = nullptr;       // Not owned; null until it is set
+    zbBrowserViewItemVirtualRoot* root_ = nullptr; // Owned unless this is a copy
+    std::unique_ptr<zbbrowser::detail::ConnectedSources> sources_;
+    zbbrowser::detail::OldViewContext* context_;       // Owned unless this is a copy
+    zbIBrowserViewItem* lastFindStartPoint_ = nullptr; // Not owned; never followed
+    bool sorting_ = true;
+    bool italic_ = true;
+    bool showEmptyFolders_ = true;
+    bool inCallback_ = false; // Not closed when an exception passes
+    bool isCopy_ = false;
+};

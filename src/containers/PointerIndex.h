@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! From the address of a data item to the slot of its view item.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace zbbrowser::detail {
+
+//! A hash index from addresses to slots, made for a million entries: eight bytes each, no
+//! allocation per entry, no tombstones. It does not hold the addresses themselves but 32 bits of
+//! their hash; the caller says which slot really belongs to an address.
+//!
+//! Open addressing with linear probing and deletion by backward shift (Knuth, The Art of Computer
+//! Programming, volume 3, 6.4, algorithm R), on a table of any size: the home of a hash is found
+//! by multiplication instead of a mask.
+class PointerIndex {
+public:
+    using Slot = std::uint32_t;
+    static constexpr Slot none = 0xffffffff;
+
+    std::size_t Count() const { return count_; }
+
+    //! Makes room for `count` further entries.
+    void Reserve(std::size_t count);
+
+    //! The slot for which `isKey(slot)` holds among those that share the hash; none if there is
+    //! none.
+    template <class IsKey>
+    Slot Find(void const* key, IsKey isKey) const {
+        if (entries_.empty())
+            return none;
+        auto const hash = Hash(key);
+        for (auto i = Home(hash); entries_[i].slot != none; i = Next(i)) {
+            if (entries_[i].hash == hash && isKey(entries_[i].slot))
+                return entries_[i].slot;
+        }
+        return none;
+    }
+
+    //! Adds an entry unless there is a slot for which `isKey(slot)` holds among those that share
+    //! the hash. Requires: room for one more, see Reserve.
+    template <class IsKey>
+    void InsertIfAbsent(void const* key, Slot slot, IsKey isKey) {
+        auto const hash = Hash(key);
+        auto i = Home(hash);
+        for (; entries_[i].slot != none; i = Next(i)) {
+            if (entries_[i].hash == hash && isKey(entries_[i].slot))
+                return;
+        }
+        entries_[i] = {hash, slot};
+        ++count_;
+    }
+
+    //! Removes the entry of this key that holds `slot`, if there is one.
+    void Erase(void const* key, Slot slot);
+
+    //! Gives each entry the slot `newSlot[slot]`.
+    void Renumber(std::vector<Slot> const& newSlot);
+
+    void Clear();
+
+    //! Asks the processor to fetch what Find or Insert of this key will look at first.
+    void Prefetch(void const* key) const {
+#if defined(__GNUC__)
+        if (!entries_.empty())
+            __builtin_prefetch(&entries_[Home(Hash(key))], 1);
+#else
+        static_cast<void>(key);
+#endif
+    }
+
+private:
+    struct Entry {
+        std::uint32_t hash = 0;
+        Slot slot = none;
+    };
+
+    //! Fibonacci hashing (Knuth, volume 3, 6.4): the upper half of a product with 2^64 divided by
+    //! the golden ratio.
+    static std::uint32_t Hash(void const* key) {
+        auto const address = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(key));
+        return static_cast<std::uint32_t>((address * 0x9e3779b97f4a7c15ULL) >> 32);
+    }
+    std::size_t Home(std::uint32_t hash) const {
+        return static_cast<std::size_t>((static_cast<std::uint64_t>(hash) * entries_.size()) >> 32);
+    }
+    std::size_t Next(std::size_t i) const {
+        return i + 1 == entries_.size() ? 0 : i + 1;
+    }
+    std::size_t Distance(std::size_t from, std::size_t to) const {
+        return to >= from ? to - from : to + entries_.size() - from;
+    }
+    void Place(Entry entry);
+    void EraseAt(std::size_t hole);
+
+    std::vector<Entry> entries_;
+    std::size_t count_ = 0;
+};
+
+} // namespace zbbrowser::detail

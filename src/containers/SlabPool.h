@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! Memory for the many small items of a view.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace zbbrowser::detail {
+
+//! Hands out blocks of one size without any overhead per block, and can tell whether an address
+//! is one of its blocks. A view item costs its own bytes and nothing more, and a pointer that the
+//! host hands in can be recognised as an item of this view without being followed.
+//!
+//! Blocks come from slabs that are aligned to their size, so that the slab of a block is found in
+//! its address. Memory goes back to the system with the pool.
+class SlabPool {
+public:
+    //! \param blockSize bytes of a block, a multiple of the alignment of a pointer
+    explicit SlabPool(std::size_t blockSize);
+    SlabPool(SlabPool const&) = delete;
+    SlabPool& operator=(SlabPool const&) = delete;
+    ~SlabPool();
+
+    //! A block, not initialised. Throws std::bad_alloc.
+    void* Allocate();
+
+    //! Gives back a block of this pool.
+    void Free(void* block);
+
+    //! `address` is the start of a block that is handed out. O(log blocks). Follows nothing.
+    bool Owns(void const* address) const;
+
+private:
+    struct Slab;
+    struct SlabDeleter {
+        void operator()(Slab* slab) const;
+    };
+    struct FreeBlock {
+        FreeBlock* next;
+    };
+
+    std::byte* BlockAt(Slab& slab, std::size_t index) const;
+    //! The index of the block that starts there; any number if none does.
+    std::size_t IndexOf(Slab const& slab, void const* address) const;
+    void AddSlab();
+
+    std::size_t const blockSize_;
+    std::size_t const blocksPerSlab_;
+    std::vector<std::unique_ptr<Slab, SlabDeleter>> slabs_; // In the order of their addresses
+    Slab* current_ = nullptr;                               // The newest one, filled from its start
+    std::size_t usedOfCurrent_ = 0;
+    FreeBlock* free_ = nullptr;
+};
+
+} // namespace zbbrowser::detail

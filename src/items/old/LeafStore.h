@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! The leaves of one place, found by order, by data item and by source.
+#pragma once
+
+#include "containers/PointerIndex.h"
+#include "containers/SlotVector.h"
+#include "items/old/zbBrowserViewItemDataLeaf.h"
+
+#include <set>
+#include <unordered_map>
+#include <vector>
+
+class zbIBrowserDataSource;
+class zbIBrowserViewItem;
+
+namespace zbbrowser::detail {
+
+//! An ordered list of leaves with an index by data item and one by source. Adding, finding and
+//! taking out a leaf are O(1) amortised; the leaves of a source are listed without looking at the
+//! others; a reader learns without looking at each leaf that nothing is hidden.
+//!
+//! The index holds the first leaf of a data item only. While it has fewer entries than there are
+//! leaves it is out of step, and then every look-up finds nothing.
+//!
+//! The store neither makes nor frees leaves, and it calls nobody. A loop that does call somebody
+//! runs over a snapshot and asks each leaf whether it is still listed.
+class LeafStore {
+public:
+    using Leaf = zbBrowserViewItemDataLeaf;
+
+    std::size_t Count() const { return slots_.Count(); }
+    bool IsEmpty() const { return slots_.IsEmpty(); }
+    bool HasVisible() const { return Count() > hidden_; }
+    bool IsIndexInStep() const { return index_.Count() == slots_.Count(); }
+
+    //! The leaf of a data item; null if there is none or the index is out of step.
+    Leaf* Find(zbIBrowserDataItemSimple const* item) const;
+    void PrefetchFind(zbIBrowserDataItemSimple const* item) const { index_.Prefetch(item); }
+
+    //! Makes room for `count` further leaves.
+    void Reserve(std::size_t count);
+
+    //! Puts a leaf behind the last one. `source` is the source of its data item.
+    //! Failure: std::bad_alloc; the store is as before.
+    void Append(Leaf& leaf, zbIBrowserDataSource const* source);
+
+    //! Takes one leaf out. Requires: it is listed here.
+    void Take(Leaf& leaf);
+
+    //! Takes several leaves out. Requires: they are distinct and listed here.
+    void Take(std::vector<Leaf*> const& leaves);
+
+    //! Requires: `visit` changes nothing here; it may free the leaf if the store goes next.
+    template <class Visit>
+    void ForEach(Visit visit) const {
+        for (auto* const leaf : slots_.Slots()) {
+            if (leaf != nullptr)
+                visit(*leaf);
+        }
+    }
+
+    //! Takes all leaves out.
+    std::vector<Leaf*> TakeAll();
+
+    //! The leaves stay, but each counts as taken out from now on.
+    void MarkAllGone();
+
+    void AppendAllTo(std::vector<zbIBrowserViewItem*>& out) const;
+    void AppendVisibleTo(std::vector<zbIBrowserViewItem*>& out, bool ascending) const;
+    std::vector<Leaf*> Snapshot() const;
+    std::vector<Leaf*> SnapshotOf(zbIBrowserDataSource const* source) const;
+    std::size_t CountOf(zbIBrowserDataSource const* source) const;
+    //! The leaves of these data items, in the order of the leaves.
+    std::vector<Leaf*> FindAll(std::set<zbIBrowserDataItemSimple*> const& items) const;
+
+    //! A listed leaf was hidden or shown.
+    void NoteHidden(bool hidden) { hidden ? ++hidden_ : --hidden_; }
+
+    //! Throws nothing and changes nothing: true if all that is kept twice agrees. For tests.
+    bool IsConsistent() const;
+
+private:
+    using Slot = SlotVector<Leaf*>::Slot;
+
+    // The slots from first up to last hold leaves of the source or nothing.
+    struct Run {
+        Slot first;
+        Slot last;
+    };
+    struct Source {
+        std::vector<Run> runs;
+        std::size_t count = 0;
+    };
+
+    std::uint32_t NumberOf(zbIBrowserDataSource const* source);
+    void Clear();
+    void Compact();
+    void RebuildRuns();
+    static void ExtendRuns(Source& source, Slot slot);
+
+    SlotVector<Leaf*> slots_;
+    PointerIndex index_;
+    std::vector<Source> sources_;
+    std::unordered_map<zbIBrowserDataSource const*, std::uint32_t> sourceNumbers_;
+    zbIBrowserDataSource const* lastSource_ = nullptr; // Of the last Append, with its number
+    std::uint32_t lastNumber_ = 0;
+    std::size_t hidden_ = 0;
+};
+
+} // namespace zbbrowser::detail

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: MIT
+#include "items/old/zbBrowserFreeFolderContentNoGrouping.h"
+
+#include "items/old/zbBrowserFreeFolderContentHolder.h"
+#include "items/old/zbBrowserViewItemFreeFolder.h"
+#include "view/LongOperation.h"
+#include "view/OldViewContext.h"
+
+#include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
+#include <zbBrowserView/host/zbIBrowserDataSourceSimple.h>
+
+#include <algorithm>
+
+using zbbrowser::detail::BeginLongOperation;
+using zbbrowser::detail::DetachedLeaves;
+
+namespace {
+//! How many items ahead the index is asked to be fetched while a list is built.
+constexpr std::size_t prefetchDistance = 8;
+} // namespace
+
+zbBrowserFreeFolderContentNoGrouping::~zbBrowserFreeFolderContentNoGrouping() {
+    leaves_.ForEach([this](Leaf& leaf) { DetachedLeaves::Destroy(leaf, Context()); });
+}
+
+void zbBrowserFreeFolderContentNoGrouping::MarkDead() {
+    zbBrowserFreeFolderContent::MarkDead();
+    leaves_.MarkAllGone();
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::OnDataItemCreated(zbIBrowserDataItemSimple* item,
+                                                             Items& created, Items&) {
+    if (item == nullptr)
+        return false;
+    created.push_back(FindOrCreateLeaf(item, false));
+    if (IsAlive())
+        RaiseChanged(Folder());
+    return true;
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::ConnectList(Simple* source, bool silent) {
+    std::vector<zbIBrowserDataItemSimple*> items;
+    if (!ListItems(*source, items))
+        return false;
+    if (items.empty())
+        return true;
+    leaves_.Reserve(items.size() - std::min(items.size(), leaves_.CountOf(source)));
+    auto const slotsRun = !silent && Context().IsHeard(&zbBrowserSignalManager::ViewItemCreated);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (i + prefetchDistance < items.size())
+            leaves_.PrefetchFind(items[i + prefetchDistance]);
+        if (items[i] == nullptr || leaves_.Find(items[i]) != nullptr)
+            continue;
+        if (!slotsRun)
+            CreateLeaf(items[i], silent);
+        else if (!CreateLeafIfContained(*source, items[i]))
+            return false;
+    }
+    if (!silent)
+        RaiseChanged(Folder());
+    return true;
+}
+
+// A slot may have deleted the data item since the source listed it, and slot and source may take
+// the list out or build the row themselves.
+bool zbBrowserFreeFolderContentNoGrouping::CreateLeafIfContained(Simple& source,
+                                                                 zbIBrowserDataItemSimple* item) {
+    auto const isContained = source.ContainsDataItem(item);
+    if (isContained && IsStillConnected(&source))
+        FindOrCreateLeaf(item, false);
+    return IsStillConnected(&source);
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::DisconnectList(Simple* source, bool silent) {
+    if (source == nullptr)
+        return false;
+    if (leaves_.IsIndexInStep())
+        DeleteLeaves(leaves_.SnapshotOf(source), silent);
+    if (!silent && IsAlive())
+        RaiseChanged(Folder());
+    return true;
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::RefreshListItems(Simple* source, bool silent) {
+    auto const bracket = BeginLongOperation(Context());
+    bool anyDirty = false;
+    for (auto* const leaf : leaves_.SnapshotOf(source)) {
+        if (!IsStillListed(*leaf))
+            continue;
+        auto* const item = leaf->GetDataItemSimple();
+        // A slot may have deleted the data item without telling.
+        if (Context().Lifetime().HasHostRun() && !source->ContainsDataItem(item))
+            continue;
+        if (!item->IsDirty())
+            continue;
+        anyDirty = true;
+        if (!silent && IsStillListed(*leaf))
+            RaiseChanged(*leaf);
+    }
+    if (anyDirty)
+        SetUnsorted();
+    return true;
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::RebuildList(Simple* source, bool silent) {
+    std::vector<zbIBrowserDataItemSimple*> items;
+    if (!ListItems(*source, items))
+        return false;
+    if (items.empty()) {
+        DisconnectList(source, false);
+    } else {
+        DeleteLeaves(FindStale(*source), silent);
+        if (IsStillConnected(source))
+            ConnectList(source, false);
+    }
+    if (IsAlive())
+        SignalFolderChain();
+    return true;
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::RedrawList(Simple*) {
+    auto const bracket = BeginLongOperation(Context());
+    for (auto* const leaf : leaves_.Snapshot()) {
+        if (IsStillListed(*leaf))
+            RaiseChanged(*leaf);
+    }
+    return true;
+}
+
+// The item is compared and not asked for its source: a slot may have freed it when its row in
+// another folder went. Where it has a leaf, its source is one of the lists.
+void zbBrowserFreeFolderContentNoGrouping::OnDataItemDeleted(zbIBrowserDataItemSimple* item,
+                                                             bool silent) {
+    DeleteLeaf(item, silent);
+}
+
+void zbBrowserFreeFolderContentNoGrouping::GetViewItems(SimpleSet const& items, Items& found,
+                                                        Items& parents) {
+    if (!leaves_.IsIndexInStep() || leaves_.IsEmpty())
+        return;
+    for (auto* const leaf : leaves_.FindAll(items)) {
+        found.push_back(leaf);
+        parents.push_back(&Folder());
+    }
+}
+
+void zbBrowserFreeFolderContentNoGrouping::GetViewItems(zbIBrowserDataItemSimple* item,
+                                                        Items& found, Items& parents) {
+    auto* const leaf = leaves_.Find(item);
+    if (leaf == nullptr)
+        return;
+    found.push_back(leaf);
+    parents.push_back(&Folder());
+}
+
+void zbBrowserFreeFolderContentNoGrouping::GetAllViewItems(Items& out, bool) const {
+    leaves_.AppendAllTo(out);
+}
+
+void zbBrowserFreeFolderContentNoGrouping::GetSortedItems(Items& out) {
+    leaves_.AppendVisibleTo(out, Context().Handlers().OrderOfLeaves().ascending);
+}
+
+zbIBrowserViewItem*
+zbBrowserFreeFolderContentNoGrouping::FindViewItem(zbIBrowserViewItem const* item) const {
+    return item == nullptr ? nullptr : leaves_.Find(item->GetDataItemSimple());
+}
+
+void zbBrowserFreeFolderContentNoGrouping::DeleteAll() {
+    DetachedLeaves gone(Context());
+    gone.Reserve(leaves_.Count());
+    for (auto* const leaf : leaves_.TakeAll())
+        gone.Add(*leaf);
+}
+
+void zbBrowserFreeFolderContentNoGrouping::OnViewItemRemoved(zbIBrowserViewItem* item) {
+    auto* const leaf = Context().FindLeaf(item);
+    if (leaf == nullptr || leaf->GetParentFreeFolder() != &Folder())
+        return;
+    DeleteLeaf(leaf->GetDataItemSimple(), false);
+    if (IsAlive() && !Folder().HasChildren())
+        RaiseChanged(Folder());
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::ApplyFilter() {
+    for (auto* const leaf : leaves_.Snapshot()) {
+        if (!IsStillListed(*leaf))
+            continue;
+        if (Context().Handlers().IsViewItemFiltered(*leaf))
+            leaf->SetHidden(true);
+        else
+            leaf->Show();
+    }
+    return true;
+}
+
+void zbBrowserFreeFolderContentNoGrouping::SelectAll(bool select) {
+    if (!Context().Handlers().SelectsItems())
+        return;
+    for (auto* const leaf : leaves_.Snapshot()) {
+        if (IsStillListed(*leaf))
+            Context().Handlers().SelectViewItem(*leaf, select, false);
+    }
+}
+
+zbBrowserFreeFolderContentNoGrouping::Leaf*
+zbBrowserFreeFolderContentNoGrouping::FindOrCreateLeaf(zbIBrowserDataItemSimple* item,
+                                                       bool silent) {
+    auto* const known = leaves_.Find(item);
+    return known != nullptr ? known : CreateLeaf(item, silent);
+}
+
+zbBrowserFreeFolderContentNoGrouping::Leaf*
+zbBrowserFreeFolderContentNoGrouping::CreateLeaf(zbIBrowserDataItemSimple* item, bool silent) {
+    auto const countBefore = leaves_.Count();
+    auto const* const source = item->GetDataSource();
+    auto const hidden = Context().Handlers().IsDataSourceFiltered(source);
+    if (!IsAlive())
+        return nullptr;
+    // The host may have reported the item from within these calls.
+    if (leaves_.Count() != countBefore) {
+        if (auto* const known = leaves_.Find(item); known != nullptr)
+            return known;
+    }
+    auto& leaf = MakeLeaf(item, source, hidden);
+    SetUnsorted();
+    if (!silent)
+        Context().Raise(&zbBrowserSignalManager::ViewItemCreated, &leaf);
+    return &leaf;
+}
+
+zbBrowserFreeFolderContentNoGrouping::Leaf&
+zbBrowserFreeFolderContentNoGrouping::MakeLeaf(zbIBrowserDataItemSimple* item,
+                                               zbIBrowserDataSource const* source, bool hidden) {
+    void* const memory = Context().LeafMemory().Allocate();
+    auto* const leaf = new (memory) zbBrowserViewItemDataLeafInFreeFolder(Folder(), item, hidden);
+    try {
+        leaves_.Append(*leaf, source);
+    } catch (...) {
+        DetachedLeaves::Destroy(*leaf, Context());
+        throw;
+    }
+    return *leaf;
+}
+
+void zbBrowserFreeFolderContentNoGrouping::DeleteLeaf(zbIBrowserDataItemSimple* item, bool silent) {
+    auto* const leaf = leaves_.Find(item);
+    if (leaf == nullptr)
+        return;
+    if (!silent)
+        Context().Raise(&zbBrowserSignalManager::ViewItemDeleted, leaf);
+    if (!IsStillListed(*leaf))
+        return;
+    DetachedLeaves gone(Context());
+    gone.Reserve(1);
+    leaves_.Take(*leaf);
+    gone.Add(*leaf);
+}
+
+void zbBrowserFreeFolderContentNoGrouping::DeleteLeaves(std::vector<Leaf*> leaves, bool silent) {
+    std::erase_if(leaves, [this](Leaf const* leaf) { return !IsStillListed(*leaf); });
+    DetachedLeaves gone(Context());
+    gone.Reserve(leaves.size());
+    leaves_.Take(leaves);
+    for (auto* const leaf : leaves)
+        gone.Add(*leaf);
+    DeleteItems(gone, silent);
+}
+
+bool zbBrowserFreeFolderContentNoGrouping::ListItems(
+    Simple& source, std::vector<zbIBrowserDataItemSimple*>& items) const {
+    Context().Lifetime().NoteHostRun();
+    return source.GetDataItems(items) && IsStillConnected(&source);
+}
+
+std::vector<zbBrowserFreeFolderContentNoGrouping::Leaf*>
+zbBrowserFreeFolderContentNoGrouping::FindStale(Simple& source) const {
+    auto leaves = leaves_.SnapshotOf(&source);
+    std::erase_if(leaves, [&](Leaf const* leaf) {
+        return !IsStillListed(*leaf) || source.ContainsDataItem(leaf->GetDataItemSimple());
+    });
+    return leaves;
+}

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! Lists whose rows stand directly in the folder.
+#pragma once
+
+#include "items/old/LeafStore.h"
+#include "items/old/zbBrowserFreeFolderContent.h"
+
+//! One leaf for each data item of each list, directly in the free folder: the strategy for lists
+//! while the folder does not group its leaves. Leaves stand in the order of their creation.
+//!
+//! A leaf lives until its data item has left its source or its list has left the folder. Over a
+//! rebuild the survivors keep their object and with it their place, selection and hidden mark; a
+//! new leaf is hidden if the filter says so at that moment.
+class zbBrowserFreeFolderContentNoGrouping final : public zbBrowserFreeFolderContent {
+public:
+    using zbBrowserFreeFolderContent::zbBrowserFreeFolderContent;
+    zbBrowserFreeFolderContentNoGrouping(zbBrowserFreeFolderContentNoGrouping const&) = delete;
+    zbBrowserFreeFolderContentNoGrouping&
+    operator=(zbBrowserFreeFolderContentNoGrouping const&) = delete;
+    ~zbBrowserFreeFolderContentNoGrouping() override;
+
+    //! Adds the leaf of a new data item to `created` and signals the folder itself; `parents` stays
+    //! as it is. Signals: `ViewItemCreated(leaf)` unless it exists, `ViewItemChanged(folder)`.
+    bool OnDataItemCreated(zbIBrowserDataItemSimple* item, Items& created, Items& parents) override;
+
+    //! Builds what is missing. Stops, and answers false, if a slot takes the list out meanwhile.
+    //! Requires: the source is one of the lists. Signals: `ViewItemCreated` for each new leaf, then
+    //! `ViewItemChanged(folder)`, which also comes if nothing was new. None for an empty source.
+    bool ConnectList(Simple* source, bool silent) override;
+
+    //! Deletes the leaves of a source. Signals: `ViewItemListDeleted`, `ViewItemChanged(folder)`.
+    bool DisconnectList(Simple* source, bool silent) override;
+
+    //! Signals `ViewItemChanged` for each leaf of the source whose data item is dirty.
+    bool RefreshListItems(Simple* source, bool silent) override;
+
+    //! Deletes the leaves whose data items the source no longer contains, then adds what is new.
+    //! Signals: `ViewItemListDeleted` unless `silent`; those of ConnectList, or for an empty source
+    //! of DisconnectList, in any case; then `ViewItemChanged` for this folder and each above it
+    //! whose icon may depend on its data.
+    bool RebuildList(Simple* source, bool silent) override;
+
+    //! Signals `ViewItemChanged` for every leaf of this content, whatever its source.
+    bool RedrawList(Simple* source) override;
+
+    void OnDataItemDeleted(zbIBrowserDataItemSimple* item, bool silent) override;
+    //! Both fill `found` and `parents` in pairs: the leaf, and the folder.
+    void GetViewItems(SimpleSet const& items, Items& found, Items& parents) override;
+    void GetViewItems(zbIBrowserDataItemSimple* item, Items& found, Items& parents) override;
+    void GetAllViewItems(Items& out, bool recursive) const override;
+    std::size_t CountViewItems() const override { return leaves_.Count(); }
+    bool HasVisibleItems() const override { return leaves_.HasVisible(); }
+    void GetSortedItems(Items& out) override;
+    zbIBrowserViewItem* FindViewItem(zbIBrowserViewItem const* item) const override;
+    void DeleteAll() override;
+    void OnViewItemRemoved(zbIBrowserViewItem* item) override;
+    bool ApplyFilter() override;
+    void SelectAll(bool select) override;
+    void MarkDead() override;
+
+    zbbrowser::detail::LeafStore& Leaves() { return leaves_; }
+
+private:
+    using Leaf = zbBrowserViewItemDataLeaf;
+
+    //! The leaf of the data item, made if there is none. Null once this content has gone.
+    Leaf* FindOrCreateLeaf(zbIBrowserDataItemSimple* item, bool silent);
+    Leaf* CreateLeaf(zbIBrowserDataItemSimple* item, bool silent);
+    //! The same, loudly, for an item that the source contains. False once the list has gone.
+    bool CreateLeafIfContained(Simple& source, zbIBrowserDataItemSimple* item);
+    Leaf& MakeLeaf(zbIBrowserDataItemSimple* item, zbIBrowserDataSource const* source, bool hidden);
+    void DeleteLeaf(zbIBrowserDataItemSimple* item, bool silent);
+    void DeleteLeaves(std::vector<Leaf*> leaves, bool silent);
+    //! Asks the source for its items. False also if the list is taken out meanwhile.
+    bool ListItems(Simple& source, std::vector<zbIBrowserDataItemSimple*>& items) const;
+    std::vector<Leaf*> FindStale(Simple& source) const;
+    bool IsStillListed(Leaf const& leaf) const { return IsAlive() && leaf.IsListed(); }
+    bool IsStillConnected(Simple const* source) const {
+        return IsAlive() && Lists().Contains(source);
+    }
+
+    zbbrowser::detail::LeafStore leaves_;
+};

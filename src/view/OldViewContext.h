@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! What the items and contents of an old view need of their view.
+#pragma once
+
+#include "containers/SlabPool.h"
+#include "view/HandlerSeams.h"
+#include "view/ViewContext.h"
+
+#include <unordered_map>
+#include <vector>
+
+class zbBrowserView;
+class zbBrowserViewItemDataLeaf;
+class zbBrowserViewItemFreeFolder;
+class zbIBrowserViewItem;
+
+namespace zbbrowser::detail {
+
+//! The context of an old view: besides what every view has, the memory of its leaves, the register
+//! that turns an interface pointer into the concrete item, and the handlers.
+class OldViewContext : public ViewContext {
+public:
+    OldViewContext(zbBrowserView& view, zbBrowserViewCtrl const* ctrl);
+
+    zbBrowserView& OldView() const { return oldView_; }
+    HandlerSeams& Handlers() { return handlers_; }
+    SlabPool& LeafMemory() { return leafMemory_; }
+
+    //! The folder of this view behind an interface pointer; null if there is none. The pointer is
+    //! compared and not followed, so anything may be asked about.
+    zbBrowserViewItemFreeFolder* FindFolder(zbIBrowserViewItem const* item) const;
+
+    //! The same for a leaf. A leaf that is about to be freed is not found.
+    zbBrowserViewItemDataLeaf* FindLeaf(zbIBrowserViewItem const* item) const;
+
+    //! It is a folder or a leaf of this view.
+    bool Owns(zbIBrowserViewItem const* item) const {
+        return FindFolder(item) != nullptr || FindLeaf(item) != nullptr;
+    }
+
+    void RegisterFolder(zbBrowserViewItemFreeFolder& folder);
+    void UnregisterFolder(zbBrowserViewItemFreeFolder const& folder);
+    std::size_t FolderCount() const { return folders_.size(); }
+
+private:
+    zbBrowserView& oldView_;
+    HandlerSeams handlers_;
+    SlabPool leafMemory_;
+    std::unordered_map<zbIBrowserViewItem const*, zbBrowserViewItemFreeFolder*> folders_;
+};
+
+//! Leaves that have left their content and are about to go. They are freed with this object, or,
+//! while an operation of the view is running, when that returns. If there is no memory to note that
+//! down, their memory goes with the view.
+class DetachedLeaves {
+public:
+    explicit DetachedLeaves(OldViewContext& context)
+        : context_(context) {}
+    DetachedLeaves(DetachedLeaves const&) = delete;
+    DetachedLeaves& operator=(DetachedLeaves const&) = delete;
+    ~DetachedLeaves();
+
+    bool IsEmpty() const { return leaves_.empty(); }
+    void Reserve(std::size_t count) { leaves_.reserve(count); }
+    //! Requires: room for one more, see Reserve.
+    void Add(zbBrowserViewItemDataLeaf& leaf) { leaves_.push_back(&leaf); }
+
+    //! A copy for slots, which may change what they are given.
+    std::vector<zbIBrowserViewItem*> Items() const;
+
+    //! Frees a leaf that nobody can hold any more.
+    static void Destroy(zbBrowserViewItemDataLeaf& leaf, OldViewContext& context);
+
+private:
+    OldViewContext& context_;
+    std::vector<zbBrowserViewItemDataLeaf*> leaves_; // Owned
+};
+
+} // namespace zbbrowser::detail

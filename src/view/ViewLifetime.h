@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! How a view survives hosts that delete what is being worked on.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace zbbrowser::detail {
+
+//! Counts how deep the view's public operations are nested and holds back the destruction of
+//! whatever goes meanwhile.
+//!
+//! A slot or a host operation may delete an item, a folder, a folder's content or the whole view
+//! while the library is in the middle of a loop over it. Such an object is detached and marked at
+//! once, so that nothing finds it any more, but its memory is given back only when the outermost
+//! operation returns. A pointer that a running loop holds therefore always points at an object,
+//! and the loop needs to ask it just one thing: are you still there?
+class ViewLifetime {
+public:
+    ViewLifetime() = default;
+    ViewLifetime(ViewLifetime const&) = delete;
+    ViewLifetime& operator=(ViewLifetime const&) = delete;
+    ~ViewLifetime();
+
+    //! An operation of the view is running.
+    bool IsBusy() const { return depth_ > 0; }
+
+    //! False as soon as the view has been given up; from then on it raises no signals.
+    bool IsAlive() const { return whenIdle_ == nullptr; }
+
+    //! A slot, or a source that lists its items, has been called since the outermost operation
+    //! began. It may have freed data items without telling, so a data item that was listed before
+    //! must not be followed unless its source says that it is still there.
+    bool HasHostRun() const { return hostHasRun_; }
+    void NoteHostRun() { hostHasRun_ = true; }
+
+    //! Gives the view up: `destroy(view)` runs when the outermost operation returns.
+    //! Requires: IsBusy().
+    void GiveUp(void* view, void (*destroy)(void*));
+
+    //! Frees `object` when the outermost operation returns, at once if none is running.
+    template <class T>
+    void Retire(std::unique_ptr<T> object) {
+        Retire(
+            object.get(), [](void* retired, void*) { delete static_cast<T*>(retired); }, nullptr);
+        static_cast<void>(object.release());
+    }
+
+    //! The same for an object that is not freed by `delete`: `destroy(object, owner)` runs instead.
+    //! If there is no memory to note it down, this throws and the object is still the caller's.
+    void Retire(void* object, void (*destroy)(void* object, void* owner), void* owner);
+
+private:
+    friend class CallScope;
+
+    struct Retired {
+        void* object;
+        void (*destroy)(void*, void*);
+        void* owner; // Not owned; outlives this object
+    };
+
+    void Leave();
+    void FreeRetired();
+
+    std::size_t depth_ = 0;
+    bool hostHasRun_ = false;
+    std::vector<Retired> retired_;
+    void* view_ = nullptr; // Not owned; set once the view has been given up
+    void (*whenIdle_)(void*) = nullptr;
+};
+
+//! One running operation of a view. Every public operation that can call the host opens one.
+class [[nodiscard]] CallScope {
+public:
+    explicit CallScope(ViewLifetime& lifetime)
+        : lifetime_(lifetime) {
+        ++lifetime_.depth_;
+    }
+    CallScope(CallScope const&) = delete;
+    CallScope& operator=(CallScope const&) = delete;
+    ~CallScope() { lifetime_.Leave(); }
+
+private:
+    ViewLifetime& lifetime_;
+};
+
+} // namespace zbbrowser::detail

@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: MIT
+// Data events and rebuilds.
+#include "items/old/FolderWalk.h"
+#include "items/old/zbBrowserFreeFolderContentHolder.h"
+#include "items/old/zbBrowserViewItemDataLeaf.h"
+#include "items/old/zbBrowserViewItemVirtualRoot.h"
+#include "view/LongOperation.h"
+#include "view/OldViewContext.h"
+
+#include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
+#include <zbBrowserView/zbBrowserView.h>
+
+using zbbrowser::detail::CallScope;
+using zbbrowser::detail::DetachedLeaves;
+using zbbrowser::detail::HostBracket;
+using zbbrowser::detail::NestedLongOperations;
+using zbbrowser::detail::WalkFolders;
+
+using Items = std::vector<zbIBrowserViewItem*>;
+
+namespace {
+
+//! Gives an event to each folder that is not busy, the holders being made where they are missing.
+//! The folder is busy while it and the folders below it work on the event.
+template <class Event>
+void WalkContents(zbBrowserViewItemFreeFolder& root, Event event) {
+    auto const enter = [&](zbBrowserViewItemFreeFolder& folder) {
+        if (folder.IsBusy())
+            return false;
+        folder.SetBusy(true);
+        event(folder.RequireHolder());
+        return true;
+    };
+    WalkFolders(root, enter, [](zbBrowserViewItemFreeFolder& folder) { folder.SetBusy(false); });
+}
+
+} // namespace
+
+// The guard is a plain mark on purpose: it stays set when the work throws.
+template <class Work>
+void zbBrowserView::Guarded(Work work) {
+    if (inCallback_)
+        return;
+    CallScope const scope(context_->Lifetime());
+    inCallback_ = true;
+    work();
+    inCallback_ = false;
+}
+
+// Events on single items
+
+template <class DataItem>
+void zbBrowserView::ReportCreated(DataItem* item, bool flag) {
+    Guarded([&] {
+        Items created;
+        Items parents;
+        CreateDataDependentViewItems(item, created, parents, flag);
+        RaiseChanged(parents);
+    });
+}
+
+void zbBrowserView::OnDataItemCreated(zbIBrowserDataItemSimple* const item, bool flag) {
+    ReportCreated(item, flag);
+}
+
+void zbBrowserView::OnDataItemCreated(zbIBrowserDataItemHierarchical* const item, bool flag) {
+    ReportCreated(item, flag);
+}
+
+template <class DataItem>
+void zbBrowserView::ReportDeleted(DataItem* item) {
+    Guarded([&] {
+        Items found;
+        Items parents;
+        GetDataDependentViewItems(item, found, parents);
+        for (auto* const viewItem : found) {
+            auto const* const leaf = context_->FindLeaf(viewItem);
+            if (leaf == nullptr)
+                continue;
+            auto& folder = *FindFreeFolder(leaf->GetParentFreeFolder());
+            folder.RequireHolder().ForEach(
+                [&](zbBrowserFreeFolderContent& content) { content.OnViewItemRemoved(viewItem); });
+        }
+    });
+}
+
+void zbBrowserView::OnDataItemDeleted(zbIBrowserDataItemSimple* const item) {
+    ReportDeleted(item);
+}
+
+void zbBrowserView::OnDataItemDeleted(zbIBrowserDataItemHierarchical* const item) {
+    ReportDeleted(item);
+}
+
+template <class DataItem>
+void zbBrowserView::ReportUpdated(DataItem* item) {
+    Guarded([&] {
+        Items found;
+        Items parents;
+        GetDataDependentViewItems(item, found, parents);
+        RaiseChanged(parents);
+    });
+}
+
+void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemSimple* const item) {
+    ReportUpdated(item);
+}
+
+void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemHierarchical* const item) {
+    ReportUpdated(item);
+}
+
+void zbBrowserView::OnDataItemReparented(zbIBrowserDataItemHierarchical* const item,
+                                         zbIBrowserDataItemHierarchical* const newParent) {
+    Guarded([&] {
+        WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+            holder.WithTree().OnReferenceChanged(item, newParent);
+        });
+    });
+}
+
+// Rebuilds
+
+void zbBrowserView::OnDataItemsRebuildAll() {
+    Guarded([&] {
+        context_->Handlers().UpdateSelection({}, false, true);
+        WalkContents(*root_, [](zbBrowserFreeFolderContentHolder& holder) {
+            holder.ForEach([](zbBrowserFreeFolderContent& c) { c.DeleteAllDependent(); });
+        });
+        CreateDataDependentViewItems(true);
+    });
+}
+
+void zbBrowserView::OnDataSourceRenumbered(zbIBrowserDataSourceSimple*) {
+    CallScope const scope(context_->Lifetime());
+    WalkContents(*root_, [](zbBrowserFreeFolderContentHolder& holder) {
+        holder.ForEach([](zbBrowserFreeFolderContent& c) { c.SetUnsorted(); });
+    });
+}
+
+void zbBrowserView::OnDataSourceRenumbered(zbIBrowserDataSourceHierarchical*) {
+    OnDataSourceRenumbered(static_cast<zbIBrowserDataSourceSimple*>(nullptr));
+}
+
+void zbBrowserView::OnAllDirtyDataItemsRebuild() {
+    CallScope const scope(context_->Lifetime());
+    RefreshFolders(*root_);
+}
+
+void zbBrowserView::RefreshFolders(zbBrowserViewItemFreeFolder& top) {
+    WalkContents(top, [](zbBrowserFreeFolderContentHolder& holder) {
+        holder.ForEach([](zbBrowserFreeFolderContent& c) { c.RefreshAll(); });
+    });
+}
+
+// Child folders come before their parent, and the rows of a folder and of all folders below it are
+// refreshed after its structure: a row is thus refreshed once for each folder above it as well.
+void zbBrowserView::OnAllDirtyDataListsRebuild() {
+    CallScope const scope(context_->Lifetime());
+    NestedLongOperations operations(*context_);
+    HostBracket const endAll([&] { operations.EndAll(); });
+    auto const enter = [&](zbBrowserViewItemFreeFolder& folder) {
+        if (folder.IsBusy())
+            return false;
+        folder.SetBusy(true);
+        operations.Begin();
+        return true;
+    };
+    auto const leave = [&](zbBrowserViewItemFreeFolder& folder) {
+        folder.RequireHolder().ForEach([](zbBrowserFreeFolderContent& c) { c.RebuildDirty(); });
+        folder.SetBusy(false);
+        if (folder.IsAlive())
+            RefreshFolders(folder);
+        operations.End();
+    };
+    WalkFolders(*root_, enter, leave);
+}
+
+void zbBrowserView::RedrawAllDirtyDataLists(bool) {
+    CallScope const scope(context_->Lifetime());
+    WalkContents(*root_, [](zbBrowserFreeFolderContentHolder& holder) {
+        holder.ForEach([](zbBrowserFreeFolderContent& c) { c.RedrawDirty(); });
+    });
+}
+
+// The bare walks
+
+void zbBrowserView::CreateDataDependentViewItems(bool silent) {
+    CallScope const scope(context_->Lifetime());
+    WalkContents(*root_, [silent](zbBrowserFreeFolderContentHolder& holder) {
+        holder.ForEach([silent](zbBrowserFreeFolderContent& c) { c.ConnectAll(silent); });
+    });
+}
+
+void zbBrowserView::CreateDataDependentViewItems(zbIBrowserDataItemSimple* item, Items& created,
+                                                 Items& parents, bool) {
+    if (item == nullptr)
+        return;
+    CallScope const scope(context_->Lifetime());
+    auto* const source = item->GetDataSource();
+    // A slot may have deleted the data item meanwhile.
+    auto const isStillThere = [&](zbBrowserFreeFolderContentHolder& holder) {
+        return !context_->Lifetime().HasHostRun() ||
+               (holder.FindList(source) != nullptr && source->ContainsDataItem(item));
+    };
+    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+        if (isStillThere(holder))
+            holder.OnDataItemCreated(item, created, parents);
+    });
+}
+
+void zbBrowserView::CreateDataDependentViewItems(zbIBrowserDataItemHierarchical* item,
+                                                 Items& created, Items& parents, bool) {
+    if (item == nullptr)
+        return;
+    CallScope const scope(context_->Lifetime());
+    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+        holder.WithTree().OnReferenceCreated(item, created, parents);
+    });
+}
+
+void zbBrowserView::DeleteDataDependentViewItems(zbIBrowserDataItemSimple* item, bool silent) {
+    if (item == nullptr)
+        return;
+    CallScope const scope(context_->Lifetime());
+    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+        holder.ForEach([&](zbBrowserFreeFolderContent& c) { c.OnDataItemDeleted(item, silent); });
+    });
+}
+
+void zbBrowserView::DeleteDataDependentViewItems(zbIBrowserDataItemHierarchical* item, bool) {
+    if (item == nullptr)
+        return;
+    CallScope const scope(context_->Lifetime());
+    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+        holder.WithTree().OnDataItemDeletedInTree(item);
+    });
+}
+
+// Deleting rows
+
+void zbBrowserView::DeleteViewItemList(Items& items, bool silent) {
+    CallScope const scope(context_->Lifetime());
+    DetachedLeaves gone(*context_);
+    gone.Reserve(items.size());
+    for (auto* const item : items) {
+        if (auto* const leaf = context_->FindLeaf(item); leaf != nullptr) {
+            leaf->TakeOutOfStore();
+            gone.Add(*leaf);
+        }
+    }
+    items.clear();
+    DeleteViewItems(gone, silent);
+}
+
+void zbBrowserView::DeleteViewItems(DetachedLeaves& leaves, bool silent) {
+    if (leaves.IsEmpty())
+        return;
+    auto const heard = !silent && context_->IsHeard(&zbBrowserSignalManager::ViewItemListDeleted);
+    auto items = heard || context_->Handlers().SelectsItems() ? leaves.Items() : Items();
+    context_->Handlers().UpdateSelection(items, false, false);
+    context_->Handlers().UpdatePreviousSelection();
+    if (heard)
+        context_->Raise(&zbBrowserSignalManager::ViewItemListDeleted, items);
+}
+
+// Through the controller, whose operation a host may have overridden.
+void zbBrowserView::RaiseChanged(Items const& items) {
+    for (auto* const item : items) {
+        if (viewCtrl_ == nullptr || !context_->Owns(item))
+            continue;
+        context_->Lifetime().NoteHostRun();
+        GetViewCtrlPtr()->OnViewItemChanged(item);
+    }
+}

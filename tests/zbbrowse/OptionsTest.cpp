@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "zbbrowse/Options.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Names = std::vector<std::string>;
+using zbbrowse::Format;
+
+class OptionsTest : public testing::Test {
+protected:
+    std::optional<zbbrowse::Options> Read(std::vector<char const*> arguments) {
+        arguments.insert(arguments.begin(), "zbbrowse");
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        auto options =
+            zbbrowse::ReadOptions(static_cast<int>(arguments.size()), arguments.data(), status_);
+        output_ = testing::internal::GetCapturedStdout();
+        errors_ = testing::internal::GetCapturedStderr();
+        return options;
+    }
+
+    void ExpectRefused(std::vector<char const*> const& arguments, std::string const& word) {
+        EXPECT_FALSE(Read(arguments)) << word;
+        EXPECT_EQ(status_, 2);
+        EXPECT_EQ(output_, "");
+        EXPECT_NE(errors_.find(word), std::string::npos) << errors_;
+        EXPECT_EQ(errors_.find("zbbrowse: "), 0U) << errors_;
+        EXPECT_EQ(errors_.find('\n'), errors_.size() - 1) << errors_;
+    }
+
+    int status_ = -1;
+    std::string output_;
+    std::string errors_;
+};
+
+TEST_F(OptionsTest, AFileAloneTakesTheDefaults) {
+    auto const options = Read({"a.db"});
+
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->file, "a.db");
+    EXPECT_EQ(options->view, "");
+    EXPECT_TRUE(options->lists.empty());
+    EXPECT_TRUE(options->folders.empty());
+    EXPECT_FALSE(options->limit);
+    EXPECT_EQ(options->format, Format::Text);
+    EXPECT_EQ(options->output, "");
+}
+
+TEST_F(OptionsTest, TheFileMayStandAnywhere) {
+    EXPECT_EQ(Read({"--list", "part", "a.db"})->file, "a.db");
+    EXPECT_EQ(Read({"a.db", "--list", "part"})->file, "a.db");
+    EXPECT_EQ(Read({"--", "--odd.db"})->file, "--odd.db");
+}
+
+TEST_F(OptionsTest, ListsGatherInTheirOrder) {
+    EXPECT_EQ(Read({"--list", "b", "a.db", "--list", "a,c", "--list=-x"})->lists,
+              (Names{"b", "a,c", "-x"}));
+}
+
+TEST_F(OptionsTest, FoldersGatherInTheirOrder) {
+    auto const options = Read({"a.db", "--folder", "x/y=a", "--folder", "z=b,c"});
+
+    ASSERT_EQ(options->folders.size(), 2U);
+    EXPECT_EQ(options->folders[0].path, (Names{"x", "y"}));
+    EXPECT_EQ(options->folders[1].lists, (Names{"b", "c"}));
+}
+
+TEST_F(OptionsTest, EachFormatHasItsName) {
+    EXPECT_EQ(Read({"a.db", "--format", "text"})->format, Format::Text);
+    EXPECT_EQ(Read({"a.db", "--format", "json"})->format, Format::Json);
+    EXPECT_EQ(Read({"a.db", "--format", "jsonl"})->format, Format::JsonLines);
+    EXPECT_EQ(Read({"a.db", "--format", "csv"})->format, Format::Csv);
+}
+
+TEST_F(OptionsTest, TheLimitMayBeZero) {
+    EXPECT_EQ(Read({"a.db", "--limit", "0"})->limit, 0U);
+    EXPECT_EQ(Read({"a.db", "--limit", "12"})->limit, 12U);
+}
+
+TEST_F(OptionsTest, ViewAndOutputAreTaken) {
+    auto const options = Read({"a.db", "--view", "my view", "--output", "x.csv"});
+
+    EXPECT_EQ(options->view, "my view");
+    EXPECT_EQ(options->output, "x.csv");
+}
+
+TEST_F(OptionsTest, MistakesAreToldInOneLine) {
+    ExpectRefused({}, "FILE");
+    ExpectRefused({"a.db", "b.db"}, "b.db");
+    ExpectRefused({"a.db", "--bogus"}, "--bogus");
+    ExpectRefused({"a.db", "--list"}, "--list");
+    ExpectRefused({"a.db", "--format", "xml"}, "xml");
+    ExpectRefused({"a.db", "--format", "3"}, "3");
+    ExpectRefused({"a.db", "--folder", "x"}, "PATH=NAME");
+    ExpectRefused({"a.db", "--view", "a", "--view", "b"}, "--view");
+}
+
+TEST_F(OptionsTest, ALimitThatIsNoCountIsRefused) {
+    for (char const* const text : {"-1", "+1", "1.5", "ten", "99999999999999999999", "0x10", " 1"})
+        ExpectRefused({"a.db", (std::string("--limit=") + text).c_str()}, "--limit");
+}
+
+TEST_F(OptionsTest, HelpNamesEachOptionAndStops) {
+    EXPECT_FALSE(Read({"--help"}));
+    EXPECT_EQ(status_, 0);
+    EXPECT_EQ(errors_, "");
+    for (char const* const name : {"FILE", "--list", "--folder", "--view", "--limit", "--format",
+                                   "--output", "--help", "--version", "json", "130"})
+        EXPECT_NE(output_.find(name), std::string::npos) << name;
+}
+
+TEST_F(OptionsTest, VersionIsOneLine) {
+    EXPECT_FALSE(Read({"--version"}));
+    EXPECT_EQ(status_, 0);
+    EXPECT_EQ(output_.find("zbbrowse "), 0U);
+    EXPECT_EQ(output_.find('\n'), output_.size() - 1);
+}
+
+} // namespace
