@@ -162,6 +162,7 @@ TEST(OwningSlotVectorTest, AgreesWithAVectorOverRandomOperations) {
         }
         std::vector<int> expected;
         std::vector<int> found;
+        expected.reserve(model.size());
         for (auto const* const element : model)
             expected.push_back(element->number);
         for (auto const& element : slots.Slots()) {

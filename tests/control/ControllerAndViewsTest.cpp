@@ -44,7 +44,7 @@ protected:
 TEST_F(ControllerAndViews, ShareNamesAcrossGenerationsRegardlessOfCase) {
     host.NewView("parts");
 
-    EXPECT_EQ(Thrown([&] { host.manager.CreateView(Ctrl(), "PARTS", false); }),
+    EXPECT_EQ(Thrown([&] { RecordingManager::CreateView(Ctrl(), "PARTS", false); }),
               "text: View with specified name already exists");
     EXPECT_EQ(Ctrl().OLD_FindView("parts"), nullptr);
 }
@@ -63,16 +63,16 @@ TEST_F(ControllerAndViews, SayOfWhichGenerationTheyAre) {
 TEST_F(ControllerAndViews, CreateFoldersThroughTheManagerInOldViews) {
     zbBrowserView& view = host.OldView("old");
 
-    EXPECT_TRUE(host.manager.CreateFreeFolder(Ctrl(), view.GetRootFreeFolder(), "tools"));
+    EXPECT_TRUE(RecordingManager::CreateFreeFolder(Ctrl(), view.GetRootFreeFolder(), "tools"));
 
     EXPECT_NE(view.GetRootFreeFolder()->FindChildFreeFolder("tools"), nullptr);
 }
 
 TEST_F(ControllerAndViews, DeleteFoldersThroughTheManagerInOldViews) {
     zbBrowserView& view = host.OldView("old");
-    host.manager.CreateFreeFolder(Ctrl(), view.GetRootFreeFolder(), "tools");
+    RecordingManager::CreateFreeFolder(Ctrl(), view.GetRootFreeFolder(), "tools");
 
-    EXPECT_TRUE(host.manager.DeleteFreeFolder(
+    EXPECT_TRUE(RecordingManager::DeleteFreeFolder(
         Ctrl(), view.GetRootFreeFolder()->FindChildFreeFolder("tools"), true));
 
     EXPECT_EQ(view.GetRootFreeFolder()->FindChildFreeFolder("tools"), nullptr);
@@ -221,7 +221,7 @@ TEST_F(ControllerAndViews, FreeTheNameOfAViewThatIsBeingDeleted) {
     SignalRecorder recorder(host);
     recorder.Once(&zbBrowserSignalManager::ViewItemCreated, [&](zbIBrowserViewItem*) {
         host.DeleteView(view);
-        EXPECT_TRUE(host.manager.CreateView(Ctrl(), "A", true));
+        EXPECT_TRUE(RecordingManager::CreateView(Ctrl(), "A", true));
     });
 
     Ctrl().OnDataItemCreated(&screw, true);

@@ -10,13 +10,18 @@
 
 namespace zbtest {
 
+//! zbIBrowserViewItem, whose own destructor is not virtual, for ItemDoubleOf to derive from.
+class DestructibleItem : public zbIBrowserViewItem {
+public:
+    virtual ~DestructibleItem() = default;
+};
+
 //! A row of no data, or a folder without content, in a view that the test chooses.
 template <class Interface>
 class ItemDoubleOf : public Interface {
 public:
     explicit ItemDoubleOf(zbIBrowserView* itsView)
         : view(itsView) {}
-    virtual ~ItemDoubleOf() = default;
 
     zbIBrowserView* view;
     zbIBrowserViewItemFreeFolder* parentFolder = nullptr;
@@ -46,7 +51,7 @@ public:
     void Show() override {}
 };
 
-using ItemDouble = ItemDoubleOf<zbIBrowserViewItem>;
+using ItemDouble = ItemDoubleOf<DestructibleItem>;
 
 class FolderDouble final : public ItemDoubleOf<zbIBrowserViewItemFreeFolder> {
 public:

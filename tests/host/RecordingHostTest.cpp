@@ -19,6 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using zbtest::RecordingHost;
 using zbtest::RecordingItem;
+using zbtest::RecordingManager;
 using zbtest::RecordingSource;
 using zbtest::RecordingTree;
 using zbtest::RecordingTreeItem;
@@ -27,6 +28,7 @@ std::vector<std::string> ItemsOf(RecordingSource& source) {
     std::vector<zbIBrowserDataItemSimple*> items;
     EXPECT_TRUE(source.GetDataItems(items));
     std::vector<std::string> names;
+    names.reserve(items.size());
     for (zbIBrowserDataItemSimple* const item : items) {
         names.push_back(dynamic_cast<RecordingItem&>(*item).Name());
     }
@@ -38,6 +40,7 @@ std::vector<std::string> ChildrenOf(RecordingTree& tree, RecordingTreeItem* pare
     std::vector<zbIBrowserDataItemHierarchical*> items;
     tree.GetChildren(parent, items, type, recursive);
     std::vector<std::string> names;
+    names.reserve(items.size());
     for (zbIBrowserDataItemHierarchical* const item : items) {
         names.push_back(dynamic_cast<RecordingTreeItem&>(*item).flat->Name());
     }
@@ -303,11 +306,11 @@ TEST_F(RecordingHostTest, TheManagerMakesAndDeletesViewsAndFolders) {
     EXPECT_EQ(&host.View("parts"), &view);
     EXPECT_EQ(view.GetDataCtrl(), &host.Control());
 
-    auto& manager = host.manager;
-    EXPECT_TRUE(manager.CreateFreeFolder(host.Controller(), view.GetRootFreeFolder(), "box"));
+    EXPECT_TRUE(
+        RecordingManager::CreateFreeFolder(host.Controller(), view.GetRootFreeFolder(), "box"));
     zbIBrowserViewItemFreeFolder* const box = view.GetRootFreeFolder()->FindChildFreeFolder("box");
     ASSERT_NE(box, nullptr);
-    EXPECT_TRUE(manager.DeleteFreeFolder(host.Controller(), box, true));
+    EXPECT_TRUE(RecordingManager::DeleteFreeFolder(host.Controller(), box, true));
     EXPECT_EQ(view.GetRootFreeFolder()->FindChildFreeFolder("box"), nullptr);
 
     EXPECT_TRUE(host.DeleteView(view));

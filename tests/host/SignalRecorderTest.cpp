@@ -17,6 +17,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using zbtest::RecordingHost;
+using zbtest::RecordingManager;
 using zbtest::SignalRecorder;
 
 //! A recorder over signals that the tests raise themselves.
@@ -147,11 +148,11 @@ TEST_F(SignalRecorderTest, NamesRowsFoldersViewsAndTheRoot) {
     zbBrowserView& view = host.OldView("parts");
     zbIBrowserViewItemFreeFolder* const root = view.GetRootFreeFolder();
     view.DataSourceConnect(&part);
-    host.manager.CreateFreeFolder(host.Controller(), root, "box");
+    RecordingManager::CreateFreeFolder(host.Controller(), root, "box");
     recorder.Only({"ViewItemCreated", "FreeFolderCreated", "ViewContentChanged"});
     recorder.Discard();
 
-    host.manager.CreateFreeFolder(host.Controller(), root, "tray");
+    RecordingManager::CreateFreeFolder(host.Controller(), root, "tray");
     view.CreateList(root->FindChildFreeFolder("tray"), &part, false);
 
     EXPECT_THAT(recorder.take(), ElementsAre("ViewItemCreated tray", "FreeFolderCreated /",

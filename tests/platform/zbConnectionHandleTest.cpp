@@ -134,6 +134,7 @@ TEST_F(HandleTest, AMovedScopedConnectionStandsUntilTheNewHolderGoes) {
     Scoped first = Connect('a');
     {
         Scoped const second(std::move(first));
+        // NOLINTNEXTLINE(bugprone-use-after-move): this is what is tested
         EXPECT_FALSE(first.IsConnected());
         EXPECT_EQ(Raise(), "a");
     }

@@ -76,8 +76,8 @@ TEST(zbStringTest, MovingLeavesTheSourceEmpty) {
 
     EXPECT_EQ(moved, "short");
     EXPECT_EQ(assigned, "a text that is too long to lie inside");
-    EXPECT_TRUE(shortText.empty());
-    EXPECT_TRUE(longText.empty());
+    EXPECT_TRUE(shortText.empty()); // NOLINT(bugprone-use-after-move): this is what is tested
+    EXPECT_TRUE(longText.empty());  // NOLINT(bugprone-use-after-move): this is what is tested
 }
 
 TEST(zbStringTest, MovingATextToItselfKeepsIt) {

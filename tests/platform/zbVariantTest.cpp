@@ -142,8 +142,8 @@ TEST(zbVariantTest, MovingLeavesKindZero) {
 
     EXPECT_EQ(moved.GetString(), "text");
     EXPECT_EQ(assigned.GetInteger(), 7);
-    EXPECT_EQ(text.GetKind(), 0);
-    EXPECT_EQ(number.GetKind(), 0);
+    EXPECT_EQ(text.GetKind(), 0);   // NOLINT(bugprone-use-after-move): this is what is tested
+    EXPECT_EQ(number.GetKind(), 0); // NOLINT(bugprone-use-after-move): this is what is tested
 }
 
 TEST(zbVariantTest, MovingAVariantToItselfKeepsIt) {

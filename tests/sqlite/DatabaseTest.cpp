@@ -225,7 +225,7 @@ TEST(Database, StopsWaitingWhenItIsToldTo) {
     options.busyTimeout = std::chrono::hours(1);
     options.stop = &stop;
     try {
-        Database(file, options);
+        Database const opened(file, options);
         FAIL() << "opened a locked file";
     } catch (Error const& error) {
         EXPECT_TRUE(error.IsInterrupted()) << error.what();

@@ -59,6 +59,7 @@ TEST_F(HostTest, ConnectsEveryTableAndView) {
     std::vector<zbIBrowserDataSourceSimple*> sources;
     EXPECT_TRUE(host_.View().GetDataSourceSimpleList(sources));
     std::vector<std::string> names;
+    names.reserve(sources.size());
     for (auto* const source : sources)
         names.emplace_back(source->GetName());
     EXPECT_THAT(names, ElementsAre("part", "empty", "broken"));

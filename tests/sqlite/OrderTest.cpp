@@ -91,6 +91,7 @@ TEST_F(Order, OfAColumnIsThatOfItsValues) {
         return cmp < 0;
     });
     std::vector<std::string> values;
+    values.reserve(items.size());
     for (auto* const item : items)
         values.push_back(Describe(property->GetValue(item)));
     EXPECT_THAT(values,

@@ -110,7 +110,7 @@ TEST_F(SourceTest, ReadsTheSoundTablesOfADamagedFile) {
         folder_.Make("CREATE TABLE sound(a); INSERT INTO sound VALUES (1); CREATE TABLE broken(a);"
                      "INSERT INTO broken VALUES (2)");
     std::string bytes = ReadFile(file_);
-    bytes.replace(2 * 4096, 64, 64, '\xee'); // The root page of the second table.
+    bytes.replace(std::size_t{2} * 4096, 64, 64, '\xee'); // The root page of the second table.
     WriteFile(file_, bytes);
     control_.emplace(Database(file_));
     EXPECT_THAT(LoadError(Named("broken")).What(), HasSubstr("damaged"));

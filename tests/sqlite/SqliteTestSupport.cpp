@@ -78,7 +78,7 @@ TempFolder::~TempFolder() {
 }
 
 fs::path TempFolder::Make(std::string_view sql) const {
-    fs::path const file = path_ / "test.db";
+    fs::path file = path_ / "test.db";
     OtherProgram(file).Run(sql);
     return file;
 }

@@ -238,7 +238,7 @@ std::string Oracle::Path(ScriptStep const& step) {
     }
     std::string path = folder->parent == nullptr ? "/" : "";
     for (; folder->parent != nullptr; folder = folder->parent) {
-        path = "/" + folder->name + path;
+        path.insert(0, "/" + folder->name);
     }
     return path;
 }

@@ -330,11 +330,12 @@ Script ScriptGenerator::DrawRebuild() {
 
 Script ScriptGenerator::DrawRows() {
     std::string const view = AnyView();
+    std::string const prefix = view + ":";
     std::string items;
     auto const folders = player_.FolderNames(view);
     for (std::size_t i = numbers_.Below(4); i > 0 && !folders.empty(); --i) {
         std::string const& folder = numbers_.Pick(folders);
-        auto const rows = player_.RowNames(view + ":" + folder);
+        auto const rows = player_.RowNames(prefix + folder);
         bool const isRow = !rows.empty() && !numbers_.OneIn(6);
         items += " " + folder + (isRow ? "=" + numbers_.Pick(rows) : "");
     }

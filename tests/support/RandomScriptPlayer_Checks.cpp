@@ -158,6 +158,7 @@ std::vector<std::string> ScriptPlayer::ViewNames() {
     std::vector<zbIBrowserView*> views;
     host_.Controller().GetViewList(views, nullptr);
     std::vector<std::string> names;
+    names.reserve(views.size());
     for (auto const* const view : views) {
         names.emplace_back(view->GetName().c_str());
     }

@@ -108,13 +108,15 @@ TEST_F(BadInputTest, ASourceMayListNullAndAnItemTwice) {
 struct StrangeName {
     char const* title;
     std::string name;
+
+    [[nodiscard]] std::string UpToTheFirstNul() const { return name.substr(0, name.find('\0')); }
 };
 
 class StrangeNameTest : public BadInputTest, public testing::WithParamInterface<StrangeName> {};
 
 TEST_P(StrangeNameTest, NamesAFolderByteForByteUpToTheFirstNul) {
     std::string const& name = GetParam().name;
-    std::string const shown = name.c_str();
+    std::string const shown = GetParam().UpToTheFirstNul();
 
     EXPECT_TRUE(view.CreateFreeFolder(&Root(), zbString(name.data(), name.size())));
 
@@ -131,14 +133,14 @@ TEST_P(StrangeNameTest, NamesAFolderByteForByteUpToTheFirstNul) {
 }
 
 TEST_P(StrangeNameTest, NamesAView) {
-    std::string const shown = GetParam().name.c_str();
+    std::string const shown = GetParam().UpToTheFirstNul();
     auto& strange = host.OldView(shown.c_str());
     EXPECT_EQ(strange.GetName().c_str(), shown);
     EXPECT_TRUE(host.DeleteView(strange));
 }
 
 TEST_P(StrangeNameTest, NamesASource) {
-    std::string const shown = GetParam().name.c_str();
+    std::string const shown = GetParam().UpToTheFirstNul();
     auto& source = host.Source(shown).Items({"x_1"});
     EXPECT_TRUE(view.DataSourceConnect(&source));
     EXPECT_EQ(view.GetDataSourceSimple(shown.c_str()), &source);

@@ -233,9 +233,9 @@ TEST_F(FoldersTest, AFolderWhoseParentWasWrittenOverIsNotFoundInThatParent) {
 
 TEST_F(FoldersTest, DeletingOneOfManySiblingsKeepsTheOrderOfTheOthers) {
     Names expected;
-    std::vector<FreeFolder*> folders;
-    for (int i = 0; i < 200; ++i) {
-        folders.push_back(&Folder(std::to_string(i).c_str()));
+    std::vector<FreeFolder*> folders(200);
+    for (std::size_t i = 0; i < folders.size(); ++i) {
+        folders[i] = &Folder(std::to_string(i).c_str());
     }
     for (std::size_t i = 0; i < folders.size(); ++i) {
         if (i % 5 == 0) {

@@ -4,6 +4,7 @@
 
 #include "ReentranceBench.h"
 
+#include <iterator>
 #include <stdexcept>
 
 namespace {
@@ -18,13 +19,13 @@ using zbtest::Trigger;
 
 struct Operation {
     char const* name;
-    std::function<void(ReentranceBench&)> run;
-    std::function<void(ReentranceBench&)> prepare = [](ReentranceBench&) {};
+    void (*run)(ReentranceBench&);
+    void (*prepare)(ReentranceBench&) = [](ReentranceBench&) {};
 };
 
 struct Deed {
     char const* name;
-    std::function<void(ReentranceBench&, Operation const&)> act;
+    void (*act)(ReentranceBench&, Operation const&);
     bool throws = false;
     bool freesItems = false;
 };
@@ -62,68 +63,67 @@ void EmptyTheSources(ReentranceBench& bench) {
     bench.a->SetShowWhenEmpty(false, false);
 }
 
-std::vector<Operation> const& AllOperations() {
-    using B = ReentranceBench;
-    static std::vector<Operation> const operations = {
-        {"CreateList", [](B& t) { t.view->CreateList(t.c, &t.host.Source("part"), false); }},
-        {"DeleteList", [](B& t) { t.view->DeleteList(t.a, &t.host.Source("part")); }},
-        {"CreateTree", [](B& t) { t.view->CreateTree(t.c, &t.host.Tree("assembly")); }},
-        {"DeleteTree", [](B& t) { t.view->DeleteTree(t.a, &t.host.Tree("assembly")); }},
-        {"CreateFreeFolder", [](B& t) { t.view->CreateFreeFolder(t.a, "x"); }},
-        {"DeleteFreeFolder", [](B& t) { t.view->DeleteFreeFolder(t.a, true); }},
-        {"GroupLeafs", [](B& t) { t.view->SetFreeFolderGroupLeafs(t.a, true); }},
-        {"UngroupLeafs", [](B& t) { t.view->SetFreeFolderGroupLeafs(t.a, false); }, Group},
-        {"ShowEmptyContainers", [](B& t) { t.view->SetFreeFolderShowEmptyContainers(t.a, true); },
-         Group},
-        {"ShowEmptyFolders", [](B& t) { t.view->ShowEmptyFolders(false); }},
-        {"IsEmptyFolderCanBeShown", [](B& t) { t.view->IsEmptyFolderCanBeShown(t.a); },
-         EmptyTheSources},
-        {"Expand", [](B& t) { t.view->ExpandFreeFolder(t.a, true); }},
-        {"Collapse", [](B& t) { t.view->CollapseFreeFolder(t.a, true); },
-         [](B& t) { t.view->ExpandFreeFolder(t.a, true); }},
-        {"ConnectSource", [](B& t) { t.view->DataSourceConnect(&t.host.Source("spare")); }},
-        {"ConnectTree", [](B& t) { t.view->DataSourceConnect(&t.host.Tree("assembly")); },
-         [](B& t) { t.view->DataSourceDisconnect("assembly"); }},
-        {"DisconnectSource", [](B& t) { t.view->DataSourceDisconnect("part"); }},
-        {"DisconnectTree", [](B& t) { t.view->DataSourceDisconnect("assembly"); }},
-        {"DisconnectAll", [](B& t) { t.view->DataSourceDisconnectAll(true); }},
-        {"SetDataCtrl", [](B& t) { t.view->SetDataCtrl(nullptr); }},
-        {"DataControlDeleted", [](B& t) { t.host.Controller().OnDataControlDeleted("data"); }},
-        {"ViewDataControlDeleted", [](B& t) { t.view->OnDataControlDeleted("data"); }},
-        {"FindTypeOfTree", [](B& t) { t.view->GetDataSourceSimpleFromHierarchical("nothing"); }},
-        {"ItemCreated", [](B& t) { t.host.Controller().OnDataItemCreated(t.announced, false); }},
-        {"ItemUpdated",
-         [](B& t) {
-             t.host.Controller().OnDataItemSimpleUpdated(t.host.Source("part").Find("nut_2"));
-         }},
-        {"ItemDeleted",
-         [](B& t) { t.view->OnDataItemDeleted(t.host.Source("part").Find("nut_2")); }},
-        {"DeleteRowsOfItem",
-         [](B& t) {
-             t.view->DeleteDataDependentViewItems(t.host.Source("part").Find("nut_2"), false);
-         }},
-        {"RebuildAll", [](B& t) { t.host.Controller().OnDataItemsRebuildAll(t.view); }},
-        {"RebuildLoud", [](B& t) { t.view->CreateDataDependentViewItems(false); }, ChangeData},
-        {"RebuildLists", [](B& t) { t.host.Controller().OnAllDirtyDataListsRebuild(t.view); },
-         ChangeData},
-        {"RebuildEmptyLists", [](B& t) { t.host.Controller().OnAllDirtyDataListsRebuild(t.view); },
-         [](B& t) {
-             MakeDirty(t);
-             EmptyTheSources(t);
-         }},
-        {"RebuildItems", [](B& t) { t.view->OnAllDirtyDataItemsRebuild(); }, MakeDirty},
-        {"Redraw", [](B& t) { t.view->RedrawAllDirtyDataLists(false); }, MakeDirty},
-        {"ShowFolder", [](B& t) { t.a->Show(); }},
-        {"MarkFolder", [](B& t) { t.a->SetShowWhenEmpty(false, true); }},
-        {"DeleteViewItemList",
-         [](B& t) {
-             std::vector<zbIBrowserViewItem*> items;
-             t.view->GetChildren(items, t.c);
-             t.view->DeleteViewItemList(items, false);
-         }},
-    };
-    return operations;
-}
+// Short, for the tables
+using B = ReentranceBench;
+using O = Operation const;
+
+constexpr Operation allOperations[] = {
+    {"CreateList", [](B& t) { t.view->CreateList(t.c, &t.host.Source("part"), false); }},
+    {"DeleteList", [](B& t) { t.view->DeleteList(t.a, &t.host.Source("part")); }},
+    {"CreateTree", [](B& t) { t.view->CreateTree(t.c, &t.host.Tree("assembly")); }},
+    {"DeleteTree", [](B& t) { t.view->DeleteTree(t.a, &t.host.Tree("assembly")); }},
+    {"CreateFreeFolder", [](B& t) { t.view->CreateFreeFolder(t.a, "x"); }},
+    {"DeleteFreeFolder", [](B& t) { t.view->DeleteFreeFolder(t.a, true); }},
+    {"GroupLeafs", [](B& t) { t.view->SetFreeFolderGroupLeafs(t.a, true); }},
+    {"UngroupLeafs", [](B& t) { t.view->SetFreeFolderGroupLeafs(t.a, false); }, Group},
+    {"ShowEmptyContainers", [](B& t) { t.view->SetFreeFolderShowEmptyContainers(t.a, true); },
+     Group},
+    {"ShowEmptyFolders", [](B& t) { t.view->ShowEmptyFolders(false); }},
+    {"IsEmptyFolderCanBeShown", [](B& t) { t.view->IsEmptyFolderCanBeShown(t.a); },
+     EmptyTheSources},
+    {"Expand", [](B& t) { t.view->ExpandFreeFolder(t.a, true); }},
+    {"Collapse", [](B& t) { t.view->CollapseFreeFolder(t.a, true); },
+     [](B& t) { t.view->ExpandFreeFolder(t.a, true); }},
+    {"ConnectSource", [](B& t) { t.view->DataSourceConnect(&t.host.Source("spare")); }},
+    {"ConnectTree", [](B& t) { t.view->DataSourceConnect(&t.host.Tree("assembly")); },
+     [](B& t) { t.view->DataSourceDisconnect("assembly"); }},
+    {"DisconnectSource", [](B& t) { t.view->DataSourceDisconnect("part"); }},
+    {"DisconnectTree", [](B& t) { t.view->DataSourceDisconnect("assembly"); }},
+    {"DisconnectAll", [](B& t) { t.view->DataSourceDisconnectAll(true); }},
+    {"SetDataCtrl", [](B& t) { t.view->SetDataCtrl(nullptr); }},
+    {"DataControlDeleted", [](B& t) { t.host.Controller().OnDataControlDeleted("data"); }},
+    {"ViewDataControlDeleted", [](B& t) { t.view->OnDataControlDeleted("data"); }},
+    {"FindTypeOfTree", [](B& t) { t.view->GetDataSourceSimpleFromHierarchical("nothing"); }},
+    {"ItemCreated", [](B& t) { t.host.Controller().OnDataItemCreated(t.announced, false); }},
+    {"ItemUpdated",
+     [](B& t) {
+         t.host.Controller().OnDataItemSimpleUpdated(t.host.Source("part").Find("nut_2"));
+     }},
+    {"ItemDeleted", [](B& t) { t.view->OnDataItemDeleted(t.host.Source("part").Find("nut_2")); }},
+    {"DeleteRowsOfItem",
+     [](B& t) {
+         t.view->DeleteDataDependentViewItems(t.host.Source("part").Find("nut_2"), false);
+     }},
+    {"RebuildAll", [](B& t) { t.host.Controller().OnDataItemsRebuildAll(t.view); }},
+    {"RebuildLoud", [](B& t) { t.view->CreateDataDependentViewItems(false); }, ChangeData},
+    {"RebuildLists", [](B& t) { t.host.Controller().OnAllDirtyDataListsRebuild(t.view); },
+     ChangeData},
+    {"RebuildEmptyLists", [](B& t) { t.host.Controller().OnAllDirtyDataListsRebuild(t.view); },
+     [](B& t) {
+         MakeDirty(t);
+         EmptyTheSources(t);
+     }},
+    {"RebuildItems", [](B& t) { t.view->OnAllDirtyDataItemsRebuild(); }, MakeDirty},
+    {"Redraw", [](B& t) { t.view->RedrawAllDirtyDataLists(false); }, MakeDirty},
+    {"ShowFolder", [](B& t) { t.a->Show(); }},
+    {"MarkFolder", [](B& t) { t.a->SetShowWhenEmpty(false, true); }},
+    {"DeleteViewItemList",
+     [](B& t) {
+         std::vector<zbIBrowserViewItem*> items;
+         t.view->GetChildren(items, t.c);
+         t.view->DeleteViewItemList(items, false);
+     }},
+};
 
 // While the control looks for the tree, it reads the tree's own name.
 void FreeAllData(ReentranceBench& bench) {
@@ -140,75 +140,70 @@ void FreeAllData(ReentranceBench& bench) {
     }
 }
 
-std::vector<Deed> const& AllDeeds() {
-    using B = ReentranceBench;
-    using O = Operation const;
-    static std::vector<Deed> const deeds = {
-        {"DeletesTheFolder", [](B& t, O&) { t.view->DeleteFreeFolder(t.a, true); }},
-        {"DeletesTheOtherFolder", [](B& t, O&) { t.view->DeleteFreeFolder(t.c, true); }},
-        {"DeletesTheLists",
-         [](B& t, O&) {
-             t.view->DeleteList(t.a, &t.host.Source("part"));
-             t.view->DeleteList(t.a, &t.host.Source("tool"));
-             t.view->DeleteList(t.c, &t.host.Source("tool"));
-         }},
-        {"DeletesTheTree", [](B& t, O&) { t.view->DeleteTree(t.a, &t.host.Tree("assembly")); }},
-        {"FreesTheItems",
-         [](B& t, O&) {
-             t.FreeItems("part");
-             t.FreeItems("tool");
-         },
-         false, true},
-        {"FreesOneSource", [](B& t, O&) { t.FreeSource("part"); }},
-        {"FreesTheOtherSource", [](B& t, O&) { t.FreeSource("tool"); }},
-        {"FreesTheFolderAndAllData",
-         [](B& t, O&) {
-             try {
-                 t.view->DeleteFreeFolder(t.a, true);
-             } catch (zbString const&) {
-                 SUCCEED(); // It has gone already
+constexpr Deed allDeeds[] = {
+    {"DeletesTheFolder", [](B& t, O&) { t.view->DeleteFreeFolder(t.a, true); }},
+    {"DeletesTheOtherFolder", [](B& t, O&) { t.view->DeleteFreeFolder(t.c, true); }},
+    {"DeletesTheLists",
+     [](B& t, O&) {
+         t.view->DeleteList(t.a, &t.host.Source("part"));
+         t.view->DeleteList(t.a, &t.host.Source("tool"));
+         t.view->DeleteList(t.c, &t.host.Source("tool"));
+     }},
+    {"DeletesTheTree", [](B& t, O&) { t.view->DeleteTree(t.a, &t.host.Tree("assembly")); }},
+    {"FreesTheItems",
+     [](B& t, O&) {
+         t.FreeItems("part");
+         t.FreeItems("tool");
+     },
+     false, true},
+    {"FreesOneSource", [](B& t, O&) { t.FreeSource("part"); }},
+    {"FreesTheOtherSource", [](B& t, O&) { t.FreeSource("tool"); }},
+    {"FreesTheFolderAndAllData",
+     [](B& t, O&) {
+         try {
+             t.view->DeleteFreeFolder(t.a, true);
+         } catch (zbString const&) {
+             SUCCEED(); // It has gone already
+         }
+         FreeAllData(t);
+     }},
+    {"TakesTheControlAway",
+     [](B& t, O&) {
+         t.view->SetDataCtrl(nullptr);
+         FreeAllData(t);
+     }},
+    {"DeletesTheView", [](B& t, O&) { t.host.DeleteView(*t.view); }},
+    {"DeletesTheViewAndAllData",
+     [](B& t, O&) {
+         t.host.DeleteView(*t.view);
+         FreeAllData(t);
+     }},
+    {"MakesFoldersAndLists",
+     [](B& t, O&) {
+         for (auto* const folder : {t.root, t.a, t.c}) {
+             t.view->CreateFreeFolder(folder, "made");
+             if (auto* const made = folder->FindChildFreeFolder("made"); made != nullptr) {
+                 t.view->CreateList(made, &t.host.Source("spare"), false);
              }
-             FreeAllData(t);
-         }},
-        {"TakesTheControlAway",
-         [](B& t, O&) {
-             t.view->SetDataCtrl(nullptr);
-             FreeAllData(t);
-         }},
-        {"DeletesTheView", [](B& t, O&) { t.host.DeleteView(*t.view); }},
-        {"DeletesTheViewAndAllData",
-         [](B& t, O&) {
-             t.host.DeleteView(*t.view);
-             FreeAllData(t);
-         }},
-        {"MakesFoldersAndLists",
-         [](B& t, O&) {
-             for (auto* const folder : {t.root, t.a, t.c}) {
-                 t.view->CreateFreeFolder(folder, "made");
-                 if (auto* const made = folder->FindChildFreeFolder("made"); made != nullptr) {
-                     t.view->CreateList(made, &t.host.Source("spare"), false);
-                 }
-             }
-             t.view->CreateList(t.c, &t.host.Source("part"), false);
-             t.host.Source("tool").Add("made_7");
-         }},
-        {"RebuildsEverything",
-         [](B& t, O&) {
-             t.view->OnDataItemsRebuildAll();
-             t.view->OnAllDirtyDataListsRebuild();
-         }},
-        {"DoesTheSameAgain", [](B& t, O& operation) { operation.run(t); }},
-        {"ThrowsText", [](B&, O&) { throw "slot failed"; }, true},
-        {"ThrowsString", [](B&, O&) { throw zbString("slot failed"); }, true},
-        {"ThrowsException", [](B&, O&) { throw std::runtime_error("slot failed"); }, true},
-    };
-    return deeds;
-}
+         }
+         t.view->CreateList(t.c, &t.host.Source("part"), false);
+         t.host.Source("tool").Add("made_7");
+     }},
+    {"RebuildsEverything",
+     [](B& t, O&) {
+         t.view->OnDataItemsRebuildAll();
+         t.view->OnAllDirtyDataListsRebuild();
+     }},
+    {"DoesTheSameAgain", [](B& t, O& operation) { operation.run(t); }},
+    {"ThrowsText", [](B&, O&) { throw "slot failed"; }, true},
+    {"ThrowsString", [](B&, O&) { throw zbString("slot failed"); }, true},
+    {"ThrowsException", [](B&, O&) { throw std::runtime_error("slot failed"); }, true},
+};
 
 class ReentranceTest : public testing::TestWithParam<std::tuple<std::size_t, std::size_t>> {
 protected:
-    Operation const& operation = AllOperations()[std::get<0>(GetParam())];
-    Deed const& deed = AllDeeds()[std::get<1>(GetParam())];
+    Operation const& operation = allOperations[std::get<0>(GetParam())];
+    Deed const& deed = allDeeds[std::get<1>(GetParam())];
 
     //! False if the trigger is not reached so often.
     bool RunWith(Trigger const& trigger, int nth);
@@ -284,18 +279,18 @@ TEST_P(ReentranceTest, TheViewSurvives) {
 }
 
 std::string NameOfCase(testing::TestParamInfo<std::tuple<std::size_t, std::size_t>> const& info) {
-    return std::string(AllOperations()[std::get<0>(info.param)].name) +
-           AllDeeds()[std::get<1>(info.param)].name;
+    return std::string(allOperations[std::get<0>(info.param)].name) +
+           allDeeds[std::get<1>(info.param)].name;
 }
 
 INSTANTIATE_TEST_SUITE_P(WhenSomebodyWithin, ReentranceTest,
-                         testing::Combine(testing::Range(std::size_t{0}, AllOperations().size()),
-                                          testing::Range(std::size_t{0}, AllDeeds().size())),
+                         testing::Combine(testing::Range(std::size_t{0}, std::size(allOperations)),
+                                          testing::Range(std::size_t{0}, std::size(allDeeds))),
                          NameOfCase);
 
 // A matrix whose operations call nobody would test nothing.
 TEST(ReentranceMatrix, EachOperationIsLeftSomewhere) {
-    for (Operation const& operation : AllOperations()) {
+    for (Operation const& operation : allOperations) {
         bool reached = false;
         for (Trigger const& trigger : AllTriggers()) {
             ReentranceBench bench;
@@ -311,7 +306,7 @@ TEST(ReentranceMatrix, EachOperationIsLeftSomewhere) {
 TEST(ReentranceMatrix, EachPointIsReachedBySomeOperation) {
     for (Trigger const& trigger : AllTriggers()) {
         bool reached = false;
-        for (Operation const& operation : AllOperations()) {
+        for (Operation const& operation : allOperations) {
             ReentranceBench bench;
             operation.prepare(bench);
             bench.Arm(trigger, 1, [] {});

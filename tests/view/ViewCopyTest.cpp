@@ -86,10 +86,10 @@ TEST_F(ViewCopyTest, TheOriginalWorksAfterItsCopyHasGone) {
 TEST_F(ViewCopyTest, ACopyMayOutliveTheOriginal) {
     Show(Root(), part);
     Copy copy(view);
-    Copy const second(copy);
+    std::optional<Copy> const second(std::in_place, copy);
     EXPECT_TRUE(host.DeleteView(view));
     EXPECT_STREQ(copy.GetName().c_str(), "view");
-    EXPECT_STREQ(second.GetName().c_str(), "view");
+    EXPECT_STREQ(second->GetName().c_str(), "view");
 }
 
 TEST_F(ViewCopyTest, AViewThatIsAssignedToLosesItsOwnContent) {

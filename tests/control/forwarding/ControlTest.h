@@ -53,7 +53,7 @@ protected:
     //! The lines since the last call, each "view.Operation arguments".
     std::vector<std::string> Take() { return calls.take(); }
 
-    void Delete(zbIBrowserView& view) { EXPECT_TRUE(manager.DeleteView(*ctrl, &view)); }
+    void Delete(zbIBrowserView& view) { EXPECT_TRUE(RecordingManager::DeleteView(*ctrl, &view)); }
 
     RecordingHostCalls calls;
     zbBrowserSignalManager signals;
@@ -64,7 +64,7 @@ protected:
 
 private:
     void Create(char const* name, bool isNew) {
-        EXPECT_TRUE(manager.CreateView(*ctrl, name, isNew));
+        EXPECT_TRUE(RecordingManager::CreateView(*ctrl, name, isNew));
         static_cast<void>(Take());
     }
 };

@@ -68,8 +68,8 @@ TEST_F(Controller, WithoutAManagerHasNoSignalsAndNoActiveView) {
 }
 
 TEST_F(Controller, LetsItsManagerCreateViewsOfEitherGeneration) {
-    EXPECT_TRUE(manager.CreateView(*ctrl, "old", false));
-    EXPECT_TRUE(manager.CreateView(*ctrl, "new", true));
+    EXPECT_TRUE(RecordingManager::CreateView(*ctrl, "old", false));
+    EXPECT_TRUE(RecordingManager::CreateView(*ctrl, "new", true));
 
     EXPECT_NE(ctrl->OLD_FindView("old"), nullptr);
     EXPECT_NE(ctrl->FindNewView("new"), nullptr);
@@ -83,7 +83,7 @@ TEST_F(Controller, LetsADerivedClassNameTheProtectedOperations) {
 }
 
 TEST_F(Controller, TakesANullNameOfAViewForAnEmptyOne) {
-    EXPECT_TRUE(manager.CreateView(*ctrl, nullptr, true));
+    EXPECT_TRUE(RecordingManager::CreateView(*ctrl, nullptr, true));
 
     EXPECT_NE(ctrl->FindNewView(""), nullptr);
 }
@@ -91,7 +91,7 @@ TEST_F(Controller, TakesANullNameOfAViewForAnEmptyOne) {
 TEST_F(Controller, ThrowsAPlainTextForANameThatIsTakenAndKeepsItsState) {
     New("a");
 
-    EXPECT_EQ(Thrown([&] { manager.CreateView(*ctrl, "A", false); }),
+    EXPECT_EQ(Thrown([&] { RecordingManager::CreateView(*ctrl, "A", false); }),
               "text: View with specified name already exists");
 
     EXPECT_TRUE(ctrl->GetState());
@@ -101,7 +101,7 @@ TEST_F(Controller, ThrowsAPlainTextForANameThatIsTakenAndKeepsItsState) {
 TEST_F(Controller, ReportsAFailureInsideByItsErrorText) {
     calls.On("Constructed", [] { throw zbString("no such thing"); });
 
-    EXPECT_FALSE(manager.CreateView(*ctrl, "a", true));
+    EXPECT_FALSE(RecordingManager::CreateView(*ctrl, "a", true));
 
     EXPECT_FALSE(ctrl->GetState());
     EXPECT_STREQ(ctrl->GetError(), "no such thing");
@@ -111,10 +111,10 @@ TEST_F(Controller, ReportsAFailureInsideByItsErrorText) {
 TEST_F(Controller, ReportsLackOfMemoryForAViewByItsErrorText) {
     calls.On("Constructed", [] { throw std::bad_alloc(); });
 
-    EXPECT_FALSE(manager.CreateView(*ctrl, "a", true));
+    EXPECT_FALSE(RecordingManager::CreateView(*ctrl, "a", true));
     EXPECT_STREQ(ctrl->GetError(),
                  "Could not create new object in the heap, possibly unsufficient memory");
-    EXPECT_FALSE(manager.CreateView(*ctrl, "b", false));
+    EXPECT_FALSE(RecordingManager::CreateView(*ctrl, "b", false));
     EXPECT_STREQ(ctrl->GetError(),
                  "Could not create new object in the heap, possibly unsufficient memory");
     EXPECT_FALSE(ctrl->GetState());
@@ -122,10 +122,10 @@ TEST_F(Controller, ReportsLackOfMemoryForAViewByItsErrorText) {
 
 TEST_F(Controller, KeepsItsErrorAfterASuccess) {
     calls.On("Constructed", [] { throw zbString("no such thing"); });
-    manager.CreateView(*ctrl, "a", true);
+    RecordingManager::CreateView(*ctrl, "a", true);
     calls.Off("Constructed");
 
-    EXPECT_TRUE(manager.CreateView(*ctrl, "a", true));
+    EXPECT_TRUE(RecordingManager::CreateView(*ctrl, "a", true));
 
     EXPECT_STREQ(ctrl->GetError(), "no such thing");
     EXPECT_FALSE(ctrl->GetState());
@@ -134,13 +134,14 @@ TEST_F(Controller, KeepsItsErrorAfterASuccess) {
 TEST_F(Controller, LetsWhatElseIsThrownPass) {
     calls.On("Constructed", [] { throw 42; });
 
-    EXPECT_THROW(manager.CreateView(*ctrl, "a", true), int);
+    EXPECT_THROW(RecordingManager::CreateView(*ctrl, "a", true), int);
 
     EXPECT_TRUE(ctrl->GetState());
 }
 
 TEST_F(Controller, ThrowsForDeletingNoView) {
-    EXPECT_EQ(Thrown([&] { manager.DeleteView(*ctrl, nullptr); }), "string: Null pointer hit");
+    EXPECT_EQ(Thrown([&] { RecordingManager::DeleteView(*ctrl, nullptr); }),
+              "string: Null pointer hit");
     EXPECT_TRUE(ctrl->GetState());
 }
 
@@ -225,7 +226,7 @@ TEST_F(Controller, CopiedHasAnErrorStateOfItsOwn) {
 
 TEST_F(Controller, AssignedShowsTheOthersPartsAndStillFreesItsOwn) {
     std::unique_ptr<zbBrowserViewCtrl> other(CreateBrowserViewCtrl(&manager));
-    manager.CreateView(*other, "mine", true);
+    RecordingManager::CreateView(*other, "mine", true);
     New("theirs");
 
     *other = *ctrl;

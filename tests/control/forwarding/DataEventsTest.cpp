@@ -271,7 +271,7 @@ TEST_F(DataEvents, AreGivenToASnapshotOfTheViewsWithoutThoseThatWent) {
     Old("c");
     calls.On("OnDataItemCreated", "a", [&] {
         Delete(b);
-        manager.CreateView(*ctrl, "later", false);
+        RecordingManager::CreateView(*ctrl, "later", false);
     });
 
     ctrl->OnDataItemCreated(&bolt, true);

@@ -14,9 +14,9 @@ TEST_F(FolderCommands, FoldersAreCreatedByTheOldViewOfTheParent) {
     zbBrowserView& view = Old("a");
     FolderDouble parent(&view, "tools");
 
-    EXPECT_TRUE(manager.CreateFreeFolder(*ctrl, &parent, "drills"));
+    EXPECT_TRUE(RecordingManager::CreateFreeFolder(*ctrl, &parent, "drills"));
     view.answer = false;
-    EXPECT_FALSE(manager.CreateFreeFolder(*ctrl, &parent, "saws"));
+    EXPECT_FALSE(RecordingManager::CreateFreeFolder(*ctrl, &parent, "saws"));
 
     EXPECT_THAT(Take(),
                 ElementsAre("a.CreateFreeFolder tools drills", "a.CreateFreeFolder tools saws"));
@@ -25,7 +25,7 @@ TEST_F(FolderCommands, FoldersAreCreatedByTheOldViewOfTheParent) {
 TEST_F(FolderCommands, FoldersAreCreatedByTheNewViewOfTheParent) {
     FolderDouble parent(&New("a"), "tools");
 
-    EXPECT_TRUE(manager.CreateFreeFolder(*ctrl, &parent, "drills"));
+    EXPECT_TRUE(RecordingManager::CreateFreeFolder(*ctrl, &parent, "drills"));
 
     EXPECT_THAT(Take(), ElementsAre("a.CreateFreeFolder tools drills"));
 }
@@ -34,7 +34,7 @@ TEST_F(FolderCommands, CreatingAFolderInAViewThatIsNotListedAnswersFalse) {
     RecordedView stranger(ctrl.get(), "stranger");
     FolderDouble parent(&stranger, "tools");
 
-    EXPECT_FALSE(manager.CreateFreeFolder(*ctrl, &parent, "drills"));
+    EXPECT_FALSE(RecordingManager::CreateFreeFolder(*ctrl, &parent, "drills"));
 
     EXPECT_THAT(Take(), ElementsAre("stranger.Constructed"));
     EXPECT_TRUE(ctrl->GetState());
@@ -44,7 +44,7 @@ TEST_F(FolderCommands, DeletingAFolderOfAViewThatIsNotListedThrows) {
     RecordedView stranger(ctrl.get(), "stranger");
     FolderDouble folder(&stranger, "tools");
 
-    EXPECT_EQ(Thrown([&] { manager.DeleteFreeFolder(*ctrl, &folder, true); }), nullHit);
+    EXPECT_EQ(Thrown([&] { RecordingManager::DeleteFreeFolder(*ctrl, &folder, true); }), nullHit);
 }
 
 TEST_F(FolderCommands, FoldersAreDeletedByTheirView) {
@@ -52,10 +52,10 @@ TEST_F(FolderCommands, FoldersAreDeletedByTheirView) {
     FolderDouble oldFolder(&oldView, "tools");
     FolderDouble newFolder(&New("new"), "parts");
 
-    EXPECT_TRUE(manager.DeleteFreeFolder(*ctrl, &oldFolder, true));
-    EXPECT_TRUE(manager.DeleteFreeFolder(*ctrl, &newFolder, false));
+    EXPECT_TRUE(RecordingManager::DeleteFreeFolder(*ctrl, &oldFolder, true));
+    EXPECT_TRUE(RecordingManager::DeleteFreeFolder(*ctrl, &newFolder, false));
     oldView.answer = false;
-    EXPECT_FALSE(manager.DeleteFreeFolder(*ctrl, &oldFolder, false));
+    EXPECT_FALSE(RecordingManager::DeleteFreeFolder(*ctrl, &oldFolder, false));
 
     EXPECT_THAT(Take(),
                 ElementsAre("old.DeleteFreeFolder tools true", "new.DeleteFreeFolder parts false",
@@ -63,8 +63,9 @@ TEST_F(FolderCommands, FoldersAreDeletedByTheirView) {
 }
 
 TEST_F(FolderCommands, FoldersMustNotBeNull) {
-    EXPECT_EQ(Thrown([&] { manager.CreateFreeFolder(*ctrl, nullptr, "drills"); }), nullHit);
-    EXPECT_EQ(Thrown([&] { manager.DeleteFreeFolder(*ctrl, nullptr, true); }), nullHit);
+    EXPECT_EQ(Thrown([&] { RecordingManager::CreateFreeFolder(*ctrl, nullptr, "drills"); }),
+              nullHit);
+    EXPECT_EQ(Thrown([&] { RecordingManager::DeleteFreeFolder(*ctrl, nullptr, true); }), nullHit);
 }
 
 // The view of a folder is looked up by its name, so one that is no part of the registry may stand
@@ -75,8 +76,8 @@ TEST_F(FolderCommands, TheViewOfAFolderIsFoundByItsNameRegardlessOfCase) {
     static_cast<void>(Take());
     FolderDouble folder(&stranger, "drills");
 
-    manager.CreateFreeFolder(*ctrl, &folder, "x");
-    manager.DeleteFreeFolder(*ctrl, &folder, false);
+    RecordingManager::CreateFreeFolder(*ctrl, &folder, "x");
+    RecordingManager::DeleteFreeFolder(*ctrl, &folder, false);
 
     EXPECT_THAT(Take(), ElementsAre("tools.CreateFreeFolder drills x",
                                     "tools.DeleteFreeFolder drills false"));
@@ -98,27 +99,27 @@ public:
 
 TEST_F(FolderCommands, ForCreatingAFolderTheOldViewsAreSearchedFirst) {
     AskedForNewViews asked(&manager);
-    manager.CreateView(asked, "old", false);
+    RecordingManager::CreateView(asked, "old", false);
     FolderDouble parent(asked.OLD_FindView("old"), "tools");
 
-    EXPECT_TRUE(manager.CreateFreeFolder(asked, &parent, "drills"));
+    EXPECT_TRUE(RecordingManager::CreateFreeFolder(asked, &parent, "drills"));
 
     EXPECT_EQ(asked.timesAsked, 0);
 }
 
 TEST_F(FolderCommands, ForDeletingAFolderTheNewViewsAreSearchedFirst) {
     AskedForNewViews asked(&manager);
-    manager.CreateView(asked, "old", false);
+    RecordingManager::CreateView(asked, "old", false);
     FolderDouble folder(asked.OLD_FindView("old"), "tools");
 
-    EXPECT_TRUE(manager.DeleteFreeFolder(asked, &folder, true));
+    EXPECT_TRUE(RecordingManager::DeleteFreeFolder(asked, &folder, true));
 
     EXPECT_EQ(asked.timesAsked, 1);
 }
 
 TEST_F(FolderCommands, ForPendingChangesTheNewViewIsFoundByTheVirtualOperation) {
     AskedForNewViews asked(&manager);
-    manager.CreateView(asked, "new", true);
+    RecordingManager::CreateView(asked, "new", true);
     FolderDouble folder(asked.FindNewView("new"), "tools");
     asked.denies = true;
 

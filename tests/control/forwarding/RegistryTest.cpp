@@ -11,7 +11,7 @@ char const* const nameTaken = "text: View with specified name already exists";
 class Registry : public ControlTest {
 protected:
     std::string Creating(char const* name, bool isNew) {
-        return Thrown([&] { manager.CreateView(*ctrl, name, isNew); });
+        return Thrown([&] { RecordingManager::CreateView(*ctrl, name, isNew); });
     }
 
     std::vector<zbIBrowserView*> Views(zbIBrowserDataCtrl const* filter = nullptr) {
@@ -46,7 +46,7 @@ TEST_F(Registry, RefusesANameThatTheHostGaveAwayWhileTheViewWasMade) {
     for (bool const isNew : {true, false}) {
         calls.On("Constructed", "a", [&] {
             calls.Off("Constructed", "a");
-            manager.CreateView(*ctrl, "A", !isNew);
+            RecordingManager::CreateView(*ctrl, "A", !isNew);
         });
 
         EXPECT_EQ(Creating("a", isNew), nameTaken);
@@ -167,8 +167,8 @@ TEST_F(Registry, DeletesAViewOfEitherGeneration) {
     zbBrowserView& oldView = Old("old");
     zbbrowser::View& newView = New("new");
 
-    EXPECT_TRUE(manager.DeleteView(*ctrl, &oldView));
-    EXPECT_TRUE(manager.DeleteView(*ctrl, &newView));
+    EXPECT_TRUE(RecordingManager::DeleteView(*ctrl, &oldView));
+    EXPECT_TRUE(RecordingManager::DeleteView(*ctrl, &newView));
 
     EXPECT_THAT(Take(), ElementsAre("old.Destroyed", "new.Destroyed"));
     EXPECT_THAT(Views(), IsEmpty());
@@ -191,8 +191,8 @@ TEST_F(Registry, DeletesNothingForAViewThatIsNotListed) {
     Delete(*gone);
     static_cast<void>(Take());
 
-    EXPECT_FALSE(manager.DeleteView(*ctrl, &stranger));
-    EXPECT_FALSE(manager.DeleteView(*ctrl, gone));
+    EXPECT_FALSE(RecordingManager::DeleteView(*ctrl, &stranger));
+    EXPECT_FALSE(RecordingManager::DeleteView(*ctrl, gone));
 
     EXPECT_THAT(Take(), IsEmpty());
     EXPECT_THAT(Views(), ElementsAre(&a));
@@ -258,7 +258,7 @@ TEST_F(Registry, DoesNotListAViewAnyMoreWhileItGoes) {
     calls.On("Destroyed", "a", [&] {
         EXPECT_EQ(ctrl->FindView("a"), nullptr);
         EXPECT_EQ(ctrl->OLD_FindViewByPtr(&view), nullptr);
-        EXPECT_FALSE(manager.DeleteView(*ctrl, &view));
+        EXPECT_FALSE(RecordingManager::DeleteView(*ctrl, &view));
     });
 
     Delete(view);
@@ -267,7 +267,7 @@ TEST_F(Registry, DoesNotListAViewAnyMoreWhileItGoes) {
 TEST_F(Registry, MayBeCalledBackByTheReleaseOfADataControl) {
     zbBrowserView& view = Old("a");
     view.SetDataCtrl(&data);
-    calls.On("Release", [&] { manager.CreateView(*ctrl, "a", true); });
+    calls.On("Release", [&] { RecordingManager::CreateView(*ctrl, "a", true); });
 
     Delete(view);
 
@@ -276,7 +276,7 @@ TEST_F(Registry, MayBeCalledBackByTheReleaseOfADataControl) {
 
 TEST_F(Registry, HoldsManyViews) {
     for (int i = 0; i < 500; ++i)
-        manager.CreateView(*ctrl, ("view" + std::to_string(i)).c_str(), i % 2 == 0);
+        RecordingManager::CreateView(*ctrl, ("view" + std::to_string(i)).c_str(), i % 2 == 0);
 
     EXPECT_EQ(Views().size(), 500U);
     EXPECT_NE(ctrl->OLD_FindView("VIEW499"), nullptr);
