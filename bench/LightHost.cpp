@@ -1,19 +1,78 @@
 // SPDX-License-Identifier: MIT
 #include "LightHost.h"
 
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
 namespace zbbench {
+
+namespace {
+
+//! Spreads the identities over all numbers (the finaliser of splitmix64).
+std::uint64_t Draw(std::uint64_t id) {
+    id = (id ^ (id >> 30U)) * 0xbf58476d1ce4e5b9U;
+    id = (id ^ (id >> 27U)) * 0x94d049bb133111ebU;
+    return id ^ (id >> 31U);
+}
+
+constexpr std::array<std::string_view, 16> words{
+    "Bolt",  "bolt",  "BOLT",  "Washer", "washer", "WASHER", "Nut",   "nut",
+    "Rivet", "RIVET", "Hinge", "hinge",  "Gasket", "GASKET", "screw", "Screw"};
+
+Item const& ItemOf(zbIBrowserDataItem const* item) {
+    return *static_cast<Item const*>(item);
+}
+
+template <class T>
+int Order(T a, T b) {
+    return a < b ? -1 : static_cast<int>(b < a);
+}
+
+} // namespace
+
+Item::Item(Source& source, std::uint32_t id, std::uint32_t names)
+    : source_(source)
+    , number_(static_cast<int>(Draw(std::uint64_t{id} + 1) % names))
+    , id_(id) {
+    auto const drawn = Draw(~std::uint64_t{id});
+    auto const& word = words[drawn % words.size()];
+    auto* end = std::copy(word.begin(), word.end(), name_.data());
+    *end++ = ' ';
+    std::to_chars(end, name_.end() - 1, (drawn >> 8U) % (names / 7 + 1));
+}
 
 zbIBrowserDataSourceSimple* Item::GetDataSource() const {
     return &source_;
 }
 
-Source::Source(std::size_t count) {
+bool NameProperty::GetString(zbIBrowserDataItem* item, zbIBrowserDataItem*, zbString& out) {
+    out = ItemOf(item).GetName();
+    return true;
+}
+
+char const* NameProperty::GetTextPointer(zbIBrowserDataItem* item, zbIBrowserDataItem*) {
+    return ItemOf(item).GetName();
+}
+
+bool NumberProperty::GetInteger(zbIBrowserDataItem* item, zbIBrowserDataItem*, int& out) {
+    out = ItemOf(item).GetNumber();
+    return true;
+}
+
+bool FlagProperty::GetBoolean(zbIBrowserDataItem* item, zbIBrowserDataItem*, bool& out) {
+    out = ItemOf(item).GetNumber() % 2 == 0;
+    return true;
+}
+
+Source::Source(std::size_t count)
+    : names_(static_cast<std::uint32_t>(count) + 1) {
     for (std::size_t i = 0; i < count; ++i)
         AddItem();
 }
 
 Item* Source::AddItem() {
-    return &items_.emplace_back(*this);
+    return &items_.emplace_back(*this, static_cast<std::uint32_t>(items_.size()), names_);
 }
 
 bool Source::GetDataItems(std::vector<zbIBrowserDataItemSimple*>& out) {
@@ -22,6 +81,25 @@ bool Source::GetDataItems(std::vector<zbIBrowserDataItemSimple*>& out) {
         if (item.isListed)
             out.push_back(&item);
     }
+    return true;
+}
+
+bool Source::CompareByDataProperty(zbIBrowserDataItem* a, zbIBrowserDataProperty*,
+                                   zbIBrowserDataItem* b, zbIBrowserDataProperty*, int& cmp) {
+    ++comparisons;
+    cmp = Order(ItemOf(a).GetNumber(), ItemOf(b).GetNumber());
+    return true;
+}
+
+bool Source::CompareByName(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) {
+    ++comparisons;
+    cmp = StrICmp(ItemOf(a).GetName(), ItemOf(b).GetName());
+    return true;
+}
+
+bool Source::CompareById(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) {
+    ++comparisons;
+    cmp = Order(ItemOf(a).GetId(), ItemOf(b).GetId());
     return true;
 }
 

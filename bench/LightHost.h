@@ -5,11 +5,15 @@
 
 #include <zbBrowserView/host/neutral/zbNeutralDataCtrl.h>
 #include <zbBrowserView/host/neutral/zbNeutralDataItemSimple.h>
+#include <zbBrowserView/host/neutral/zbNeutralDataProperty.h>
 #include <zbBrowserView/host/neutral/zbNeutralDataSourceSimple.h>
 #include <zbBrowserView/host/neutral/zbNeutralManager.h>
 #include <zbBrowserView/zbBrowserView.h>
 #include <zbBrowserView/zbBrowserViewCtrl.h>
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <vector>
@@ -18,16 +22,42 @@ namespace zbbench {
 
 class Source;
 
+//! A part with a name such as "Washer 483920", in upper, lower or mixed case, and a number. Both
+//! are drawn by lot from the identity. About one name and one number in two are those of several
+//! items.
 class Item final : public zbNeutralDataItemSimple {
 public:
-    explicit Item(Source& source)
-        : source_(source) {}
+    //! \param names how many names there are to draw from
+    Item(Source& source, std::uint32_t id, std::uint32_t names);
     zbIBrowserDataSourceSimple* GetDataSource() const override;
+    char const* GetName() const { return name_.data(); }
+    int GetNumber() const { return number_; }
+    std::uint32_t GetId() const { return id_; }
 
     bool isListed = true;
 
 private:
+    std::array<char, 15> name_{};
     Source& source_;
+    int number_;
+    std::uint32_t id_;
+};
+
+class NameProperty final : public zbNeutralDataProperty {
+public:
+    bool GetString(zbIBrowserDataItem* item, zbIBrowserDataItem*, zbString& out) override;
+    char const* GetTextPointer(zbIBrowserDataItem* item, zbIBrowserDataItem*) override;
+};
+
+class NumberProperty final : public zbNeutralDataProperty {
+public:
+    bool GetInteger(zbIBrowserDataItem* item, zbIBrowserDataItem*, int& out) override;
+};
+
+//! True for every second number.
+class FlagProperty final : public zbNeutralDataProperty {
+public:
+    bool GetBoolean(zbIBrowserDataItem* item, zbIBrowserDataItem*, bool& out) override;
 };
 
 //! Never frees an item, so that asking whether it still contains one is a look at a mark.
@@ -40,6 +70,11 @@ public:
     //! Every item that was ever made.
     std::deque<Item>& Items() { return items_; }
     bool isDirty = false;
+    NameProperty name;
+    NumberProperty number;
+    FlagProperty flag;
+    //! How often it has compared two items.
+    std::size_t comparisons = 0;
 
     zbIBrowserDataCtrl* GetDataCtrl() override { return nullptr; }
     char const* GetName() const override { return "source"; }
@@ -49,9 +84,16 @@ public:
     bool ContainsDataItem(zbIBrowserDataItemSimple* item) override {
         return static_cast<Item*>(item)->isListed;
     }
+    //! By number, the only property that it compares by.
+    bool CompareByDataProperty(zbIBrowserDataItem* a, zbIBrowserDataProperty*,
+                               zbIBrowserDataItem* b, zbIBrowserDataProperty*, int& cmp) override;
+    //! Regardless of case.
+    bool CompareByName(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) override;
+    bool CompareById(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) override;
 
 private:
     std::deque<Item> items_;
+    std::uint32_t const names_;
 };
 
 class DataCtrl final : public zbNeutralDataCtrl {

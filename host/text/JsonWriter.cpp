@@ -50,6 +50,10 @@ public:
     void Append(std::string& out, std::size_t row) const {
         out += opening_;
         AppendJson(out, list_.GetRowName(row));
+        if (list_.HasIcons()) {
+            out += ",\"icon\":";
+            AppendJson(out, list_.GetIcon(row));
+        }
         out += ",\"columns\":{";
         for (std::size_t column = 0; column < keys_.size(); ++column) {
             out += keys_[column];
@@ -119,6 +123,11 @@ void JsonWriter::WriteFolder(char const* nameKey, Folder const& folder) {
     AppendKey(out, nameKey);
     AppendJsonString(out, folder.name);
     out += ',';
+    if (folder.icon) {
+        AppendKey(out, "icon");
+        AppendJsonString(out, *folder.icon);
+        out += ',';
+    }
     AppendKey(out, "folders");
     char const* separator = "[";
     for (auto const& child : folder.folders) {

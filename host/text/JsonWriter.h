@@ -8,7 +8,7 @@
 namespace zbtext {
 
 //! A row is `{"name": ..., "columns": {...}}` with the columns in their order; the values are
-//! written as JsonText.h says.
+//! written as JsonText.h says. Where icons are asked for, "icon" follows each name.
 //!
 //! One list is an array of rows. Several lists are one object, in which each list's name leads to
 //! its array. A view is `{"view": name, "folders": [...], "lists": [...]}`, in which a folder has
@@ -20,6 +20,8 @@ namespace zbtext {
 class JsonWriter : public ListWriter {
 public:
     explicit JsonWriter(Output& output);
+
+    bool NamesRows() const override { return true; }
 
     void WriteLists(std::vector<std::unique_ptr<List>> const& lists) override;
     void WriteView(Folder const& root) override;
@@ -38,6 +40,8 @@ private:
 class JsonLinesWriter : public ListWriter {
 public:
     explicit JsonLinesWriter(Output& output);
+
+    bool NamesRows() const override { return true; }
 
     void WriteLists(std::vector<std::unique_ptr<List>> const& lists) override;
     void WriteView(Folder const& root) override;

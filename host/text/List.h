@@ -7,11 +7,24 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zbtext {
+
+//! How the text of a cell is to look.
+struct Look {
+    bool bold = false;
+    bool italic = false;
+};
+
+//! The column by which rows are sorted.
+struct SortMark {
+    std::size_t column;
+    bool ascending;
+};
 
 //! One list with its rows and columns. Rows and columns are 0-based.
 class List {
@@ -32,7 +45,18 @@ public:
     //! The row's name: a text, or null if it has none. Valid until the next call.
     virtual Value GetRowName(std::size_t row) const = 0;
 
+    //! Valid until the next call.
     virtual Value GetValue(std::size_t row, std::size_t column) const = 0;
+
+    //! Whether the rows have icons beside their names, and the name of a row's icon: a text, or
+    //! null if it has none. Valid until the next call.
+    virtual bool HasIcons() const { return false; }
+    virtual Value GetIcon(std::size_t /*row*/) const { return {}; }
+
+    //! Nothing if the rows stand as they come, or are sorted by something that is not shown.
+    virtual std::optional<SortMark> GetSortMark() const { return std::nullopt; }
+
+    virtual Look GetLook(std::size_t /*row*/, std::size_t /*column*/) const { return {}; }
 };
 
 //! A folder, with what stands in it in the order in which it is shown.
@@ -40,6 +64,7 @@ struct Folder {
     std::string name;
     std::vector<Folder> folders;
     std::vector<std::unique_ptr<List>> lists;
+    std::optional<std::string> icon = std::nullopt; //!< Its name, where icons are asked for.
 };
 
 //! Takes the first list of that name (byte for byte) out of a folder or the folders below it. Null

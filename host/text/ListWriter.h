@@ -25,6 +25,9 @@ public:
 
     //! False where the format has no place for so many lists in one output.
     virtual bool CanWrite(std::size_t /*lists*/) const { return true; }
+
+    //! True where the format has a place of its own for the name and the icon of a row.
+    virtual bool NamesRows() const { return false; }
 };
 
 } // namespace zbtext

@@ -17,6 +17,9 @@ Palette const& GetPalette(bool colour) {
         .header = "\x1b[4m",
         .faint = "\x1b[2m",
         .fault = "\x1b[31m",
+        .bold = "\x1b[1m",
+        .italic = "\x1b[3m",
+        .boldItalic = "\x1b[1;3m",
         .reset = "\x1b[0m",
     };
     return colour ? coloured : plain;

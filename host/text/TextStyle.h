@@ -27,6 +27,9 @@ struct Palette {
     std::string_view header;
     std::string_view faint;
     std::string_view fault;
+    std::string_view bold;
+    std::string_view italic;
+    std::string_view boldItalic;
     std::string_view reset;
 };
 

@@ -15,6 +15,9 @@ constexpr std::size_t kNarrowestColumn = 6;
 constexpr std::string_view kNull = "NULL";
 constexpr std::string_view kEllipsis = "\xE2\x80\xA6";
 constexpr std::string_view kRule = "\xE2\x94\x80";
+constexpr std::string_view kAscending = " \xE2\x96\xB2";
+constexpr std::string_view kDescending = " \xE2\x96\xBC";
+constexpr std::size_t kMarkWidth = 2;
 
 //! A number is never cut in the middle, where it would read as another number.
 std::size_t AppendNumber(std::string& out, Value const& value, std::size_t limit) {
@@ -89,6 +92,8 @@ TextTable::TextTable(Output& output, List const& list, TextStyle const& style,
     : output_(output)
     , list_(list)
     , palette_(GetPalette(style.colour))
+    , colour_(style.colour)
+    , sortMark_(list.GetSortMark())
     , prefix_(prefix)
     , measureLimit_(std::min(cellLimit, style.width == kNoLimit ? kWidestColumn : style.width)) {
     Measure();
@@ -98,9 +103,18 @@ TextTable::TextTable(Output& output, List const& list, TextStyle const& style,
         column.cut = style.width == kNoLimit ? cellLimit : column.width;
 }
 
+std::string_view TextTable::MarkOf(std::size_t index) const {
+    if (!sortMark_ || sortMark_->column != index)
+        return {};
+    return sortMark_->ascending ? kAscending : kDescending;
+}
+
 void TextTable::Measure() {
-    for (auto const& name : list_.GetColumns())
-        columns_.push_back({.width = std::min(DisplayWidth(name, measureLimit_), measureLimit_)});
+    for (auto const& name : list_.GetColumns()) {
+        auto const mark = MarkOf(columns_.size()).empty() ? 0 : kMarkWidth;
+        auto const width = DisplayWidth(name, measureLimit_) + mark;
+        columns_.push_back({.width = std::min(width, measureLimit_)});
+    }
     for (std::size_t row = 0; row < list_.GetRowCount(); ++row) {
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             auto const value = list_.GetValue(row, i);
@@ -162,11 +176,23 @@ void TextTable::AppendColumn(std::size_t index, std::string_view cell, std::size
         out.append(fill, ' ');
 }
 
+//! The mark stays where the name is cut.
+std::size_t TextTable::AppendHeader(std::size_t index) {
+    auto const& name = list_.GetColumns()[index];
+    auto const mark = MarkOf(index);
+    auto const room = columns_[index].cut;
+    scratch_.clear();
+    if (mark.empty() || room <= kMarkWidth)
+        return AppendCut(scratch_, name, room);
+    auto const width = AppendCut(scratch_, name, room - kMarkWidth);
+    scratch_ += mark;
+    return width + kMarkWidth;
+}
+
 void TextTable::WriteHeader() {
     BeginLine();
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-        scratch_.clear();
-        auto const width = AppendCut(scratch_, list_.GetColumns()[i], columns_[i].cut);
+        auto const width = AppendHeader(i);
         AppendColumn(i, scratch_, width, columns_[i].HeaderAlign(), palette_.header);
     }
     EndLine();
@@ -183,21 +209,33 @@ void TextTable::WriteRule() {
     EndLine();
 }
 
-void TextTable::WriteCell(std::size_t index, Value const& value) {
-    scratch_.clear();
+std::string_view TextTable::ColourOf(std::size_t row, std::size_t index) const {
+    if (!colour_)
+        return {};
+    auto const look = list_.GetLook(row, index);
+    if (look.bold)
+        return look.italic ? palette_.boldItalic : palette_.bold;
+    return look.italic ? palette_.italic : std::string_view();
+}
+
+void TextTable::WriteCell(std::size_t row, std::size_t index) {
+    auto const value = list_.GetValue(row, index);
     auto const& column = columns_[index];
+    scratch_.clear();
     auto const width = AppendCell(scratch_, value, column.cut);
-    if (value.kind == ValueKind::Null)
+    if (value.kind == ValueKind::Null) {
         AppendColumn(index, scratch_, width, column.HeaderAlign(), palette_.faint);
-    else
-        AppendColumn(index, scratch_, width, value.IsNumber() ? Align::Right : Align::Left, {});
+        return;
+    }
+    auto const align = value.IsNumber() ? Align::Right : Align::Left;
+    AppendColumn(index, scratch_, width, align, ColourOf(row, index));
 }
 
 void TextTable::WriteRows() {
     for (std::size_t row = 0; row < list_.GetRowCount(); ++row) {
         BeginLine();
         for (std::size_t i = 0; i < columns_.size(); ++i)
-            WriteCell(i, list_.GetValue(row, i));
+            WriteCell(row, i);
         EndLine();
     }
 }

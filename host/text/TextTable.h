@@ -7,6 +7,7 @@
 #include "text/Output.h"
 #include "text/TextStyle.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,8 @@ namespace zbtext {
 //! Lays the columns of one list out and writes them.
 //!
 //! Numbers stand to the right of their column, texts to the left, and null where the header stands.
+//! The header of the column by which the list is sorted says so and in which direction: `mass ▲`
+//! with the smallest on top, `mass ▼` with the largest. Bold and italic show with colours only.
 //! If the style has a width, the widest columns are narrowed until a line fits, and columns at the
 //! end are left out where even that does not help. Without a width nothing is left out; a column
 //! then is as wide as its widest value, but a value of more than `kWidestColumn` cells only makes
@@ -46,6 +49,9 @@ private:
     };
 
     void Measure();
+    std::string_view MarkOf(std::size_t index) const;
+    std::size_t AppendHeader(std::size_t index);
+    std::string_view ColourOf(std::size_t row, std::size_t index) const;
     void Narrow(std::size_t available);
     std::size_t WidthWithCap(std::size_t cap) const;
 
@@ -53,11 +59,13 @@ private:
     void EndLine();
     void AppendColumn(std::size_t index, std::string_view cell, std::size_t width, Align align,
                       std::string_view colour);
-    void WriteCell(std::size_t index, Value const& value);
+    void WriteCell(std::size_t row, std::size_t index);
 
     Output& output_;
     List const& list_;
     Palette const& palette_;
+    bool colour_;
+    std::optional<SortMark> sortMark_;
     std::string_view prefix_;
     std::size_t measureLimit_;
     std::vector<Column> columns_; //!< Those that are shown; fewer than the list's if `dropped_`.

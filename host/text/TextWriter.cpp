@@ -91,7 +91,8 @@ void TextWriter::WriteFolder(Folder const& folder, std::string const& prefix) {
     auto const branch = [&] { return prefix + std::string(left == 1 ? kLastBranch : kBranch); };
     auto const below = [&] { return prefix + std::string(left == 1 ? kNoTrunk : kTrunk); };
     for (auto const& child : folder.folders) {
-        WriteName(branch(), child.name, palette_.folder, {}, {});
+        auto const icon = child.icon ? '[' + *child.icon + "] " : std::string();
+        WriteName(branch() + icon, child.name, palette_.folder, {}, {});
         WriteFolder(child, below());
         --left;
     }

@@ -4,36 +4,18 @@
 #pragma once
 
 #include "text/List.h"
+#include "text/RowReader.h"
+#include "text/SourceList.h"
 
 #include <cstddef>
 #include <memory>
-#include <string>
+#include <optional>
 #include <vector>
 
-class zbBrowserView;
-class zbIBrowserDataItemSimple;
-class zbIBrowserDataProperty;
-class zbIBrowserDataSourceSimple;
+class zbIBrowserView;
 class zbIBrowserViewItemFreeFolder;
 
 namespace zbtext {
-
-//! What only the host knows of its data: which properties are a source's columns, and how to get a
-//! value with its type. A host with other data gives the writers another one of these.
-class RowReader {
-public:
-    virtual ~RowReader() = default;
-
-    //! Names for `FindDataProperty` of the source, in the order of its columns.
-    virtual std::vector<std::string> GetColumnNames(zbIBrowserDataSourceSimple& source) const = 0;
-
-    //! The bytes of the value live as long as the row.
-    virtual Value GetValue(zbIBrowserDataProperty& property,
-                           zbIBrowserDataItemSimple& row) const = 0;
-
-    //! Why the source has no rows to give; empty if nothing is wrong.
-    virtual std::string GetFault(zbIBrowserDataSourceSimple& source) const = 0;
-};
 
 //! Reads a view the way any painter does: it asks for folders, for the lists in them and for the
 //! items below them, and for nothing that is not shown.
@@ -41,19 +23,29 @@ public:
 //! What it gives refers to the view's rows: it is valid until the view or its data change.
 class ViewReader {
 public:
-    //! `rowLimit` is the most rows that a list hands out; its total counts all.
-    ViewReader(zbBrowserView const& view, RowReader const& rows, std::size_t rowLimit);
+    //! `rowLimit` is the most rows that a list hands out; its total counts all. With `paint`, names
+    //! and cells come through the view's columns; otherwise each list has its source's own.
+    ViewReader(zbIBrowserView const& view, RowReader const& rows, std::size_t rowLimit,
+               std::optional<PaintOptions> const& paint = std::nullopt);
 
-    //! The whole view, its root folder under the view's name.
+    //! The whole view, its root folder under the view's name. A view of the new generation has no
+    //! lists.
     Folder ReadView() const;
 
 private:
-    Folder ReadFolder(zbIBrowserViewItemFreeFolder& folder) const;
-    std::vector<std::unique_ptr<List>> ReadLists(zbIBrowserViewItemFreeFolder& folder) const;
+    using Lists = std::vector<std::unique_ptr<SourceList>>;
 
-    zbBrowserView const& view_;
+    Folder ReadFolder(zbIBrowserViewItemFreeFolder& folder) const;
+    void ReadName(zbIBrowserViewItemFreeFolder& folder, Folder& result) const;
+    std::vector<std::unique_ptr<List>> ReadLists(zbIBrowserViewItemFreeFolder& folder) const;
+    std::unique_ptr<SourceList> MakeList(zbIBrowserDataSourceSimple& source) const;
+    void Deal(zbIBrowserViewItemFreeFolder const& folder, Lists const& lists) const;
+
+    zbIBrowserView const& view_;
     RowReader const& rows_;
     std::size_t rowLimit_;
+    PaintOptions paint_;
+    std::shared_ptr<Painter> painter_; // Null: nothing is painted.
 };
 
 } // namespace zbtext

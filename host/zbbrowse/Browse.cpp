@@ -57,14 +57,16 @@ int ReportFaults(OpenView const& view) {
 
 //! A picture shows what can be shown, and marks what cannot; the exit status tells of it.
 int WriteView(OpenView const& view, Options const& options, zbtext::ListWriter& writer) {
-    writer.WriteView(view.ReadView(options.limit.value_or(kRowsInPicture)));
+    auto const rows = options.limit.value_or(kRowsInPicture);
+    writer.WriteView(view.ReadView(rows, !writer.NamesRows()));
     return ReportFaults(view);
 }
 
 int WriteLists(OpenView const& view, Options const& options, zbtext::ListWriter& writer) {
     if (auto const status = ReportFaults(view); status != 0)
         return status;
-    writer.WriteLists(view.ReadLists(options.limit.value_or(kAllRows)));
+    auto const rows = options.limit.value_or(kAllRows);
+    writer.WriteLists(view.ReadLists(rows, !writer.NamesRows()));
     return 0;
 }
 

@@ -3,6 +3,7 @@
 
 #include "text/Output.h"
 #include "text/ViewReader.h"
+#include "zbbrowse/Appearance.h"
 #include "zbbrowse/Complaint.h"
 #include "zbbrowse/RowValues.h"
 #include "zbbrowse/Suggestion.h"
@@ -29,6 +30,8 @@ zbsqlite::HostOptions MakeHostOptions(Options const& options, std::atomic<bool> 
     zbsqlite::HostOptions result;
     result.open.stop = &stop;
     result.viewName = ViewName(options);
+    if (options.newGeneration)
+        result.generation = zbsqlite::Generation::New;
     return result;
 }
 
@@ -52,6 +55,8 @@ OpenView::OpenView(Options const& options, std::atomic<bool> const& stop)
         progress_.Show(source.GetName(), rows);
     });
     Resolve();
+    if (IsPainted(options_))
+        SetAppearance(host_.AnyView(), ShownSources(), options_);
 }
 
 OpenView::~OpenView() = default;
@@ -70,11 +75,7 @@ std::vector<std::string> OpenView::NamesByRank() const {
 zbsqlite::Source& OpenView::FindSource(std::string const& name) {
     if (auto* const source = host_.Data().FindDataSourceSimple(name.c_str()))
         return *source;
-    std::string message = options_.file + ": no list \"" + name + '"';
-    auto const nearest = FindNearest(name, NamesByRank());
-    for (std::size_t i = 0; i < nearest.size(); ++i)
-        message += (i == 0 ? "; nearest: " : ", ") + nearest[i];
-    throw Complaint(message);
+    throw Complaint(options_.file + ": no list \"" + name + '"' + NearestNote(name, NamesByRank()));
 }
 
 void OpenView::Resolve() {
@@ -93,6 +94,15 @@ void OpenView::Resolve() {
         if (!IsPlaced(*source))
             Place({KindFolder(*source)}, *source);
     }
+}
+
+std::vector<zbsqlite::Source*> OpenView::ShownSources() const {
+    std::vector<zbsqlite::Source*> sources;
+    for (auto const& placement : placements_) {
+        if (std::find(sources.begin(), sources.end(), placement.source) == sources.end())
+            sources.push_back(placement.source);
+    }
+    return sources;
 }
 
 bool OpenView::IsPlaced(zbsqlite::Source const& source) const {
@@ -127,20 +137,24 @@ zbIBrowserViewItemFreeFolder& OpenView::MakeFolder(Path const& path) {
 }
 
 void OpenView::LoadList(zbIBrowserViewItemFreeFolder& folder, zbsqlite::Source& source) {
-    if (folder.FindList(&source) != nullptr)
+    if (options_.newGeneration || folder.FindList(&source) != nullptr)
         return;
     host_.CreateList(&folder, source);
     if (stop_.load())
         throw zbtext::Stopped();
 }
 
-zbtext::Folder OpenView::ReadView(std::size_t rowLimit) const {
+zbtext::Folder OpenView::ReadView(std::size_t rowLimit, bool namesAreColumns) const {
     static RowValues const values;
-    return zbtext::ViewReader(host_.View(), values, rowLimit).ReadView();
+    std::optional<zbtext::PaintOptions> paint;
+    if (IsPainted(options_))
+        paint = {.icons = options_.icon, .namesAreColumns = namesAreColumns};
+    return zbtext::ViewReader(host_.AnyView(), values, rowLimit, paint).ReadView();
 }
 
-std::vector<std::unique_ptr<zbtext::List>> OpenView::ReadLists(std::size_t rowLimit) const {
-    auto view = ReadView(rowLimit);
+std::vector<std::unique_ptr<zbtext::List>> OpenView::ReadLists(std::size_t rowLimit,
+                                                               bool namesAreColumns) const {
+    auto view = ReadView(rowLimit, namesAreColumns);
     std::vector<std::unique_ptr<zbtext::List>> lists;
     for (auto const* const source : lists_) {
         if (auto list = zbtext::TakeList(view, source->GetName()))

@@ -24,18 +24,20 @@ namespace zbbrowse {
 //! Only what is shown is loaded: a list that stands in no folder costs nothing.
 class OpenView {
 public:
-    //! Throws `zbsqlite::Error` for a file that cannot be shown, `Complaint` for a name that it
-    //! does not have, and `zbtext::Stopped`. `stop` must outlive the view.
+    //! Throws `zbsqlite::Error` for a file that cannot be shown, `Complaint` for a name of a list
+    //! or a column that it does not have, and `zbtext::Stopped`. `stop` must outlive the view.
     OpenView(Options const& options, std::atomic<bool> const& stop);
     ~OpenView();
     OpenView(OpenView const&) = delete;
     OpenView& operator=(OpenView const&) = delete;
 
-    //! The whole view. `rowLimit` is the most rows that each list hands out.
-    zbtext::Folder ReadView(std::size_t rowLimit) const;
+    //! The whole view. `rowLimit` is the most rows that each list hands out; `namesAreColumns`: see
+    //! zbtext::PaintOptions.
+    zbtext::Folder ReadView(std::size_t rowLimit, bool namesAreColumns) const;
 
     //! The lists that `--list` names, in their order, each once.
-    std::vector<std::unique_ptr<zbtext::List>> ReadLists(std::size_t rowLimit) const;
+    std::vector<std::unique_ptr<zbtext::List>> ReadLists(std::size_t rowLimit,
+                                                         bool namesAreColumns) const;
 
     //! How many lists `--list` names, each counted once.
     std::size_t GetListCount() const { return lists_.size(); }
@@ -52,6 +54,7 @@ private:
     zbsqlite::Source& FindSource(std::string const& name);
     std::vector<std::string> NamesByRank() const;
     void Resolve();
+    std::vector<zbsqlite::Source*> ShownSources() const;
     bool IsPlaced(zbsqlite::Source const& source) const;
     void Place(Path path, zbsqlite::Source& source);
     void PlaceByKind();

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <iostream>
 #include <map>
+#include <utility>
 
 namespace zbbrowse {
 
@@ -20,6 +21,14 @@ the views of the database, in them a list for each, with its count and first row
 In --folder a backslash takes the meaning from a following , = / or backslash.
 The folders asked for stand in place of those for tables and views.
 
+Columns are those of the lists that are shown, in any case; a list shows those that
+it has. --columns all shows all; a backslash makes \all a column of that name, and
+takes the meaning from a comma. --sort takes the last :asc or :desc for the direction,
+so a column whose name ends so needs one more. Rows that tie stand by name, then as
+they come; :desc is :asc read backwards. "name" is the rows' name where no list has a
+column of that name. With --name, --icon or a sort by the rows' name, text and CSV
+show the name, too.
+
 Text is cut to the width of the terminal, and not at all when it goes elsewhere.
 CSV is for one --list, or for the picture. In JSON a blob is {"$blob": "<base64>"},
 a text that is not UTF-8 {"$bytes": "<base64>"}.
@@ -31,6 +40,9 @@ interrupted.)";
 //! formats by number.
 struct Unchecked {
     std::vector<std::string> folders;
+    std::optional<std::string> columns;
+    std::optional<std::string> sort;
+    std::string generation = "old";
     std::string limit;
     std::string format = "text";
 };
@@ -46,6 +58,18 @@ void AddOptions(CLI::App& app, Options& options, Unchecked& unchecked) {
                    "Make a folder with these lists in it (repeatable)")
         ->option_text("PATH=NAME[,NAME...]")
         ->allow_extra_args(false);
+    app.add_option("--columns", unchecked.columns, "Show these columns, or all")
+        ->option_text("COL[,COL...]");
+    app.add_option("--sort", unchecked.sort, "Sort rows by this column, upwards unless told")
+        ->option_text("COL[:asc|:desc]");
+    app.add_option("--name", options.name, "Name rows after this column; else by the usual one")
+        ->option_text("COL");
+    app.add_flag("--icon", options.icon, "Show the names of icons");
+    app.add_option("--bold", options.bold, "Show rows bold where this column is true")
+        ->option_text("COL");
+    app.add_option("--generation", unchecked.generation,
+                   "old, or new: a view that has folders, but no rows yet")
+        ->option_text("GENERATION");
     app.add_option("--view", options.view, "Name of the view; else that of the file")
         ->option_text("NAME");
     app.add_option("--limit", unchecked.limit,
@@ -96,14 +120,33 @@ std::optional<std::size_t> ReadCount(std::string const& text) {
     return count;
 }
 
-//! Empty if all is well, else what to complain about.
-std::string Check(Unchecked const& unchecked, Options& options) {
+// The checks give an empty text if all is well, else what to complain about.
+
+std::string CheckFolders(Unchecked const& unchecked, Options& options) {
     for (auto const& text : unchecked.folders) {
         auto folder = ReadFolderOption(text);
         if (!folder)
             return "--folder " + text + ": not PATH=NAME[,NAME...]";
         options.folders.push_back(std::move(*folder));
     }
+    return {};
+}
+
+std::string CheckColumns(Unchecked const& unchecked, Options& options) {
+    if (unchecked.columns) {
+        options.columns = ReadColumnsOption(*unchecked.columns);
+        if (!options.columns)
+            return "--columns " + *unchecked.columns + ": not all or COL[,COL...]";
+    }
+    if (unchecked.sort) {
+        options.sort = ReadSortOption(*unchecked.sort);
+        if (!options.sort)
+            return "--sort " + *unchecked.sort + ": not COL[:asc|:desc]";
+    }
+    return {};
+}
+
+std::string CheckOutput(Unchecked const& unchecked, Options& options) {
     auto const format = ReadFormat(unchecked.format);
     if (!format)
         return "--format " + unchecked.format + ": not text, json, jsonl or csv";
@@ -112,6 +155,31 @@ std::string Check(Unchecked const& unchecked, Options& options) {
         return {};
     options.limit = ReadCount(unchecked.limit);
     return options.limit ? "" : "--limit " + unchecked.limit + ": not a number from 0 on";
+}
+
+std::string CheckGeneration(Unchecked const& unchecked, Options& options) {
+    options.newGeneration = unchecked.generation == "new";
+    if (!options.newGeneration)
+        return unchecked.generation == "old"
+                   ? ""
+                   : "--generation " + unchecked.generation + ": not old or new";
+    std::pair<bool, char const*> const needRows[] = {
+        {!options.lists.empty(), "--list"},         {options.limit.has_value(), "--limit"},
+        {options.columns.has_value(), "--columns"}, {options.sort.has_value(), "--sort"},
+        {options.name.has_value(), "--name"},       {options.bold.has_value(), "--bold"}};
+    for (auto const& [given, name] : needRows) {
+        if (given)
+            return std::string(name) + " needs rows, and --generation new has none yet";
+    }
+    return {};
+}
+
+std::string Check(Unchecked const& unchecked, Options& options) {
+    for (auto* const check : {CheckFolders, CheckColumns, CheckOutput, CheckGeneration}) {
+        if (auto mistake = check(unchecked, options); !mistake.empty())
+            return mistake;
+    }
+    return {};
 }
 
 } // namespace

@@ -18,11 +18,28 @@ struct FolderOption {
     std::vector<std::string> lists;
 };
 
+//! The columns that the user asked for: all, or those named, in this order.
+struct ColumnsOption {
+    bool all = false;
+    std::vector<std::string> names;
+};
+
+struct SortOption {
+    std::string column;
+    bool ascending = true;
+};
+
 struct Options {
     std::string file;
     std::string view; //!< Empty: named after the file.
     std::vector<std::string> lists;
     std::vector<FolderOption> folders;
+    std::optional<ColumnsOption> columns;
+    std::optional<SortOption> sort;
+    std::optional<std::string> name; //!< The column that names the rows.
+    std::optional<std::string> bold; //!< The column that makes rows bold.
+    bool icon = false;
+    bool newGeneration = false;
     std::optional<std::size_t> limit;
     Format format = Format::Text;
     std::string output; //!< Empty: standard output.
@@ -37,5 +54,13 @@ std::optional<Options> ReadOptions(int argc, char const* const* argv, int& statu
 //! Reads `PATH=NAME[,NAME...]`, where a backslash takes the meaning from the character behind it.
 //! Nothing if a part is missing or a name is empty.
 std::optional<FolderOption> ReadFolderOption(std::string const& text);
+
+//! Reads `all` or `NAME[,NAME...]`, with backslashes as above: `\all` is a column of that name.
+//! Nothing if a name is empty.
+std::optional<ColumnsOption> ReadColumnsOption(std::string const& text);
+
+//! Reads `COL[:asc|:desc]`. Only the last direction is one; what stands before it is the name.
+//! Nothing if the name is empty.
+std::optional<SortOption> ReadSortOption(std::string const& text);
 
 } // namespace zbbrowse

@@ -43,6 +43,11 @@ zbtext::Value RowValues::GetValue(zbIBrowserDataProperty& property,
     return ToTextValue(column.GetValue(static_cast<zbsqlite::Row const&>(row)));
 }
 
+bool RowValues::IsColumn(zbIBrowserDataProperty& property,
+                         zbIBrowserDataSourceSimple& source) const {
+    return SourceOf(source).AsColumn(&property) != nullptr;
+}
+
 std::string RowValues::GetFault(zbIBrowserDataSourceSimple& source) const {
     auto const* const error = SourceOf(source).LastError();
     return error != nullptr ? error->What() : std::string();

@@ -3,7 +3,7 @@
 //! The rows of a database for the writers.
 #pragma once
 
-#include "text/ViewReader.h"
+#include "text/RowReader.h"
 
 namespace zbbrowse {
 
@@ -13,6 +13,8 @@ public:
     std::vector<std::string> GetColumnNames(zbIBrowserDataSourceSimple& source) const override;
     zbtext::Value GetValue(zbIBrowserDataProperty& property,
                            zbIBrowserDataItemSimple& row) const override;
+    bool IsColumn(zbIBrowserDataProperty& property,
+                  zbIBrowserDataSourceSimple& source) const override;
     std::string GetFault(zbIBrowserDataSourceSimple& source) const override;
 };
 

@@ -78,4 +78,11 @@ std::vector<std::string> FindNearest(std::string_view typed,
     return result;
 }
 
+std::string NearestNote(std::string_view typed, std::vector<std::string> const& names) {
+    std::string note;
+    for (auto const& name : FindNearest(typed, names))
+        note += (note.empty() ? "; nearest: " : ", ") + name;
+    return note;
+}
+
 } // namespace zbbrowse

@@ -14,4 +14,7 @@ namespace zbbrowse {
 //! case are the same. Where none is near, the first three, so that the user sees what there is.
 std::vector<std::string> FindNearest(std::string_view typed, std::vector<std::string> const& names);
 
+//! The same as the end of a message: `; nearest: a, b`, or nothing if there are no names.
+std::string NearestNote(std::string_view typed, std::vector<std::string> const& names);
+
 } // namespace zbbrowse

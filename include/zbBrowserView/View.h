@@ -2,10 +2,16 @@
 //! \file
 //! zbbrowser::View: a view of the new generation.
 //!
-//! Contents:
-//! 1. Life, name, data control, connections, lock: src/view/View.cpp
-//! 2. Answers of what this generation does not offer: src/view/View_NotOffered.cpp
-//! 3. What is not built yet and answers neutrally until then: src/view/View_Shell.cpp
+//! | Theme                                              | Where                        |
+//! |----------------------------------------------------|------------------------------|
+//! | 1. Life, name, data control, connections, lock     | src/view/View.cpp            |
+//! | 2. Free folders                                    | View_Folders.cpp             |
+//! | 3. View properties                                 | View_Properties.cpp          |
+//! | 4. Columns and styles                              | View_Columns.cpp             |
+//! | 5. Sorting                                         | View_Sorting.cpp             |
+//! | 6. Selection, view items and data items            | View_Selection.cpp           |
+//! | 7. What this generation does not offer             | View_NotOffered.cpp          |
+//! | 8. What is not built yet, answered neutrally       | View_Shell.cpp               |
 #pragma once
 
 #include <zbBrowserView/platform/zbExport.h>
@@ -20,15 +26,20 @@
 class zbBrowserSignalManager;
 class zbBrowserViewCtrl;
 class zbIBrowserDataItem;
+class zbIBrowserDataProperty;
 
 namespace zbbrowser {
 
 struct PendingViewChangeInfo;
+class SortHandler;
+class ViewColumnCustom;
+class ViewColumnDefault;
 class ViewItemFreeFolder;
+class ViewItemVirtualRoot;
 class ViewsInfo;
 
 namespace detail {
-class ViewLifetime;
+class NewViewContext;
 }
 
 //! A view of the new generation. It holds a configuration per folder, is rebuilt in batches, and
@@ -39,15 +50,32 @@ class ViewLifetime;
 //! of each folder, `Lock(false)`. While it is locked, the view refuses to create or delete folders,
 //! to expand items, and to be told that its data control goes.
 //!
-//! Of this generation there is so far the object itself: name, controller, data control,
-//! connections, lock, and the switches for sorting, italic and empty folders. It has no root
-//! folder, no columns and no handlers yet, and answers what needs them as a view without any would:
-//! with null, false, or the zbString "Null pointer hit" for a folder that it cannot find.
+//! What works in this version: the object itself, free folders, selection, view properties,
+//! columns, styles and sorting. What a folder shows, menus, collector and view operations are not
+//! built yet; what needs them answers like a view that has no such handler: false, null, or
+//! nothing.
 //!
-//! Ownership: made and deleted by the controller only.
+//! A fresh view has the four default properties, a default column, and a root without children.
+//!
+//! Ownership: made and deleted by the controller only. What it is made of (root, columns,
+//! properties, handlers) can be deleted and made again one by one with the operations of "Parts";
+//! each Create does nothing if the part is there, each Delete nothing if it is not. What needs a
+//! part that is missing answers false or null.
 class ZBBROWSERVIEW_API View : public zbIBrowserView {
 public:
-    //! A copy shows the same data and the same controller, but is no view of that controller.
+    //! \name Names of default properties and operations
+    //! @{
+    static char const* const DEFAULT_NAME_PROP;        //!< "default_name_prop"
+    static char const* const DEFAULT_ICON_NAME_PROP;   //!< "default_icon_name_prop"
+    static char const* const DEFAULT_BOLD_TEXT_PROP;   //!< "default_bold_text_prop"
+    static char const* const DEFAULT_ITALIC_TEXT_PROP; //!< "default_italic_text_prop"
+    static char const* const DEFAULT_COPYAT_OPERATION; //!< "default_copyat_operation"
+    static char const* const DEFAULT_MOVETO_OPERATION; //!< "default_moveto_operation"
+    //! @}
+
+    //! A copy has the name, the connections and the switches of its own and shares everything else,
+    //! which goes with the original; nothing may be done with the copy after that. The library
+    //! never copies. Requires, for the assignment: no operation of the target is running.
     View(View const& other);
     View& operator=(View const& other);
 
@@ -203,6 +231,99 @@ public:
     //! The host's signals, asked anew each time. May be null.
     zbBrowserSignalManager* GetSignalManager() const;
 
+    ViewItemVirtualRoot* GetVirtualRoot() const;
+    ViewColumnDefault* GetDefaultColumnPtr() const;
+    SortHandler* GetSortHandler() const;
+
+    //! Stored for the host, which may store what it likes; the library never follows it. Null at
+    //! first, and when the item has left the view.
+    zbIBrowserViewItem* GetLastFindStartPoint() const;
+    void SetLastFindStartPoint(zbIBrowserViewItem* item);
+
+    //! \name Parts
+    //! @{
+
+    //! Failure: throws the zbString "Initialized memory where null is expected, possible memory
+    //! leak" if there is a root.
+    void CreateVirtualRoot();
+    void DeleteVirtualRoot();
+    void CreatePropertyHolder();
+    void DeletePropertyHolder();
+    //! Adds those of the four default properties that are missing, and gives each its type.
+    void CreateDefaultViewProperties();
+    //! Does nothing: default properties go with their holder.
+    void DeleteDefaultViewProperties();
+    void CreateDefaultColumn();
+    void DeleteDefaultColumn();
+    void DeleteScriptedColumns();
+    //! The default column first. No signals.
+    void DeleteColumns();
+    void CreateSortHandler();
+    void DeleteSortHandler();
+    //! Both do nothing: this generation has no filter.
+    void CreateFilterHandler();
+    void DeleteFilterHandler();
+    //! @}
+
+    //! \name View properties
+    //! As those of zbBrowserView, but for what is said there.
+    //! @{
+    bool CreateVPConnect(zbIBrowserViewProperty* property, zbIBrowserDataSource* source,
+                         zbIBrowserDataProperty* dataProperty);
+    bool CreateVPConnect(zbIBrowserViewProperty* property, char const* script);
+    bool DeleteVPConnect(zbIBrowserViewProperty* property, zbIBrowserDataSource* source);
+    //! @}
+
+    //! \name Columns and styles
+    //! As those of zbBrowserView.
+    //! @{
+    zbIBrowserViewColumn* FindColumn(zbIBrowserViewColumn const* column) const;
+    ViewColumnCustom* FindScriptedColumn(zbIBrowserViewColumn const* const column) const;
+    //! Null for an empty name, too.
+    ViewColumnCustom* CreateColumnCustom(zbString const& name);
+    //! The index of a scripted column. 0 for any other column, null included.
+    unsigned GetColumnIndex(zbIBrowserViewColumn const* column) const;
+    bool RemoveViewItemStyle(zbIBrowserViewItem* const item);
+    //! False always.
+    bool GetCheckBoxValue(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
+                          bool& out) const;
+    //! @}
+
+    //! Walks all folders and changes nothing: their child folders are sorted once, and rows of this
+    //! generation stand as the data side gave them.
+    void SetAllDataItemListsUnsorted();
+
+    //! \name Settings of folders that only old views have
+    //! Each tests the folder as described for zbIBrowserView, throwing where that says so, and then
+    //! answers false.
+    //! @{
+    bool ChildrenAdd(zbIBrowserViewItemFreeFolder* folder, zbIBrowserDataReference* reference,
+                     zbIBrowserDataSource* source, bool flag);
+    bool ChildrenGroup(zbIBrowserViewItemFreeFolder* folder, zbIBrowserDataReference* reference,
+                       zbIBrowserDataSource* source, bool flag);
+    bool ChildrenShowEmptyGroupingFolder(zbIBrowserViewItemFreeFolder* folder,
+                                         zbIBrowserDataReference* reference,
+                                         zbIBrowserDataSource* source, bool flag);
+    bool ListAdd(zbIBrowserViewItemFreeFolder* folder, zbIBrowserDataSource* source, bool flag);
+    bool ListGroup(zbIBrowserViewItemFreeFolder* folder, zbIBrowserDataSource* source, bool flag);
+    bool ListShowEmptyGroupingFolder(zbIBrowserViewItemFreeFolder* folder,
+                                     zbIBrowserDataSource* source, bool flag);
+    //! @}
+
+    //! \name Not offered
+    //! False, whatever the folder is.
+    //! @{
+    bool DeleteTreeParentChild(zbIBrowserViewItemFreeFolder* folder,
+                               zbIBrowserDataReference* reference, zbIBrowserDataSource* parent,
+                               zbIBrowserDataSource* child);
+    bool DeleteTreeTopLevel(zbIBrowserViewItemFreeFolder* folder, zbIBrowserDataSource* source);
+    bool GetCaption(zbIBrowserViewItemFreeFolder* folder, zbString& out) const;
+    //! @}
+
+    //! Announces that the filter changed: clears the selection.
+    //! Signals: `ViewContentChanged(view)`, `ViewChanged(view)`. True.
+    bool ApplyCurrentFilter();
+
     //! \name Batches
     //! @{
 
@@ -239,8 +360,31 @@ public:
     bool IsViewItemSelected(zbIBrowserViewItem* item);
     //! @}
 
+    //! \name View items and data items
+    //! Sets come in the order of addresses. Items that are null or of another view are passed over.
+    //! @{
+
+    //! The data items that the items show; a folder stands for its rows, with `recursive` also for
+    //! those below. False: `items` is empty.
+    bool GetDataItemsFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                   std::set<zbIBrowserDataItem*>& out, bool recursive) const;
+    //! The same, of one source only.
+    bool GetDataItemsFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                   std::set<zbIBrowserDataItem*>& out,
+                                   zbIBrowserDataSource* const source, bool recursive) const;
+    //! The sources of those, with `withAncestors` also of the rows above them.
+    bool GetDataSourcesFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                     std::set<zbIBrowserDataSource*>& out,
+                                     bool withAncestors) const;
+    //! Appends the items that show any of `dataItems`.
+    void GetDataDependentViewItems(std::set<zbIBrowserDataItem*> const& dataItems,
+                                   std::vector<zbIBrowserViewItem*>& out) const;
+    //! @}
+
     //! \name Events, given by the controller
     //! @{
+    //! Selects, or deselects, what shows these items. Nothing happens while the sync flag of the
+    //! selection manager is false.
     void OnDataItemsSelected(std::vector<zbIBrowserDataItem*> const& items, bool clear, bool flag);
     void OnDataItemsDeselected(std::vector<zbIBrowserDataItem*> const& items);
     void OnUpdateViewSelection(std::vector<zbIBrowserViewItem*> const& items, bool select,
@@ -260,6 +404,9 @@ private:
     //! Deletes the view now or, if one of its operations is running, when that returns.
     static void Destroy(View* view);
 
+    void CreateSelectionManager();
+    void CleanUp();
+
     //! Forgets the host's data.
     void LetGo();
 
@@ -270,7 +417,7 @@ private:
 
     //! FindFreeFolderImpl for those who cannot go on without: throws "Null pointer hit" if it is
     //! null.
-    ViewItemFreeFolder* RequireFreeFolder(zbIBrowserViewItem const* item) const;
+    ViewItemFreeFolder& RequireFreeFolder(zbIBrowserViewItem const* item) const;
 
     //! Makes pending records of a folder take effect.
     bool ApplyPendingChanges(zbIBrowserViewItemFreeFolder* folder, bool immediately);
@@ -278,13 +425,14 @@ private:
     zbString name_;
     zbBrowserViewCtrl const* viewCtrl_;      // Not owned, never null
     zbIBrowserDataCtrl* dataCtrl_ = nullptr; // Not owned, may be null
+    detail::NewViewContext* context_;        // Owned unless this is a copy
     bool sorting_ = true;
     bool italic_ = true;
     bool showEmptyFolders_ = true;
     bool locked_ = false;
+    bool isCopy_ = false;
     std::set<zbIBrowserDataSource*> connectedSources_;       // Not owned
     std::set<zbIBrowserDataReference*> connectedReferences_; // Not owned
-    std::unique_ptr<detail::ViewLifetime> lifetime_;         // Of each copy its own
 };
 
 } // namespace zbbrowser

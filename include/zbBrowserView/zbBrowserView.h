@@ -8,9 +8,12 @@
 //! | 2. Data control and data sources             | zbBrowserView_DataSources.cpp     |
 //! | 3. Free folders, lists and trees             | zbBrowserView_Folders.cpp         |
 //! | 4. Data events and rebuilds                  | zbBrowserView_DataEvents.cpp      |
-//! | 5. From data items to view items             | zbBrowserView_Mapping.cpp         |
+//! | 5. Data items, view items and selection      | zbBrowserView_Mapping.cpp         |
 //! | 6. Listing and expansion                     | zbBrowserView_Expansion.cpp       |
-//! | 7. Columns, styles, filter, menus, collector | zbBrowserView_Presentation.cpp    |
+//! | 7. View properties                           | zbBrowserView_Properties.cpp      |
+//! | 8. Columns and styles                        | zbBrowserView_Columns.cpp         |
+//! | 9. Sorting                                   | zbBrowserView_Sorting.cpp         |
+//! | 10. Filter, menus, collector                 | zbBrowserView_Presentation.cpp    |
 //!
 //! One class answers all 123 operations of zbIBrowserView, hence the length of this file.
 #pragma once
@@ -25,12 +28,17 @@
 #include <set>
 #include <vector>
 
+class zbBrowserSelectionManager;
+class zbBrowserSortHandler;
+class zbBrowserViewColumnCustom;
+class zbBrowserViewColumnDefault;
 class zbBrowserViewCtrl;
 class zbBrowserViewItemFreeFolder;
 class zbBrowserViewItemVirtualRoot;
 class zbIBrowserDataItem;
 class zbIBrowserDataItemHierarchical;
 class zbIBrowserDataItemSimple;
+class zbIBrowserDataProperty;
 
 namespace zbbrowser {
 class ViewsInfo;
@@ -49,9 +57,10 @@ struct ConnectedSources;
 //! listed there. What is not said here about an operation of `zbIBrowserView` is said there.
 //!
 //! What works in this version: data sources, free folders, flat lists, listing, data events of flat
-//! items. What hangs on columns, styles, properties, sorting, filter, selection, menus, collector
-//! and view operations answers like a view that has no such handler: false, null, an empty output,
-//! or nothing. A list in a folder that groups its leaves is recorded and shows no items yet.
+//! items, selection, view properties, columns, styles and sorting. What hangs on filter, menus,
+//! collector and view operations answers like a view that has no such handler: false, null, an
+//! empty output, or nothing. A list in a folder that groups its leaves is recorded and shows no
+//! items yet.
 //!
 //! Calling back: a slot or a host operation that runs inside an operation of the view may call any
 //! operation of it and may delete folders, lists, data items or the view itself. What goes is
@@ -96,7 +105,8 @@ public:
     class zbBrowserSignalManager* GetSignalManager() const;
     zbBrowserViewItemVirtualRoot* GetVirtualRoot() const;
     zbIBrowserViewItemFreeFolder* GetRootFreeFolder() const override;
-    //! Stored for the host; the library never follows it. Null at first.
+    //! Stored for the host, which may store what it likes; the library never follows it. Null at
+    //! first, and when the item has left the view.
     zbIBrowserViewItem* GetLastFindStartPoint() const;
     void SetLastFindStartPoint(zbIBrowserViewItem* item);
     bool IsNewView() const override;
@@ -290,27 +300,72 @@ public:
     //! Signals: `ViewItemListDeleted(items)` unless `silent`.
     //! `items` comes back empty.
     void DeleteViewItemList(std::vector<zbIBrowserViewItem*>& items, bool silent);
-    void OnGuiMapDeleted(zbString const& name);
     //! \}
 
-    //! \name 5. From data items to view items
+    //! \name 5. Data items, view items and selection
+    //! One data item may stand in many places of a view, so that way always gives a list.
     //! \{
+
+    //! The data items behind view items, in the order of these; a data item comes once for each
+    //! place. A folder stands for its rows, with `withDescendants` also for those of the folders
+    //! below, hidden ones included. Flat items are those of rows of flat sources only.
+    //!
+    //! Tree items, with `withDescendants`: what the tree lists below a row follows its item; for a
+    //! folder that is not expanded, whose rows may not be made yet, what the trees list below all
+    //! that is in `out` so far.
+    //! False: an item is null or of another view; `out` has what was found before it. True for no
+    //! items at all. OLD_GetDataItemsFromViewItems is the same.
+    bool GetDataItemsFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                   std::vector<zbIBrowserDataItemHierarchical*>& out,
+                                   bool withDescendants) const;
+    bool GetDataItemsFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                   std::vector<zbIBrowserDataItemSimple*>& out,
+                                   bool withDescendants) const;
+    bool OLD_GetDataItemsFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                       std::vector<zbIBrowserDataItemHierarchical*>& out,
+                                       bool withDescendants) const;
+    bool OLD_GetDataItemsFromViewItems(std::vector<zbIBrowserViewItem*> const& items,
+                                       std::vector<zbIBrowserDataItemSimple*>& out,
+                                       bool withDescendants) const;
+
+    //! Appends what the trees list below `items`, all levels. Items without a tree are passed over.
+    void AppendDescendentDataItems(std::vector<zbIBrowserDataItemHierarchical*>& out,
+                                   std::vector<zbIBrowserDataItemHierarchical*> const& items) const;
+
+    //! True, and `out` empty, whatever the items are.
+    bool GetSelectionTypes(std::vector<zbIBrowserViewItem*> const& items,
+                           std::vector<zbIBrowserDataSourceSimple*>& out);
+
+    //! Appends each row of a data item to `found` and, at the same place, the item to be painted
+    //! anew when the row changes to `parents`.
     void GetDataDependentViewItems(zbIBrowserDataItemSimple* item,
                                    std::vector<zbIBrowserViewItem*>& found,
                                    std::vector<zbIBrowserViewItem*>& parents);
     void GetDataDependentViewItems(zbIBrowserDataItemHierarchical* item,
                                    std::vector<zbIBrowserViewItem*>& found,
                                    std::vector<zbIBrowserViewItem*>& parents);
+
+    //! The data side selected these items. The rows of those whose source is connected to this view
+    //! are selected, after all else has been deselected with `clear`, the folders around them are
+    //! expanded, and the host is asked to show the first row. Nothing happens while the sync flag
+    //! of the selection manager is false, nor from within itself or a data event.
+    //! Signals: `ViewItemExpanded` for each folder, a folder before the one that it stands in;
+    //! those of zbIBrowserSelectionManager::UpdateSelection; then `ShowViewItem` of the manager.
     void OnDataItemsSelected(std::vector<zbIBrowserDataItemSimple*> const& simple,
                              std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical,
                              bool clear);
+    //! With `first` only the first item of a connected tree, and whatever the sync flag is.
     void OnDataItemsSelected(std::vector<zbIBrowserDataItemHierarchical*> const& items, bool clear,
                              bool first);
+    //! Does nothing: the items of this generation are flat ones and those of trees.
     void OnDataItemsSelected(std::vector<zbIBrowserDataItem*> const& items, bool clear,
                              bool noPanelUpdate);
+    //! Deselects the rows of these items, under the same conditions. Nothing is expanded.
     void OnDataItemsDeselected(std::vector<zbIBrowserDataItemSimple*> const& simple,
                                std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical);
+    //! Does nothing.
     void OnDataItemsDeselected(std::vector<zbIBrowserDataItem*> const& items);
+    bool EditSelectedDataItem(char const* operation) override;
     void UpdatePreviousSelection() override;
     void OnSelectionChangeFinished() override;
     void DeselectAllViewItems() override;
@@ -318,6 +373,7 @@ public:
     void SetDropItem(zbIBrowserViewItem* item) override;
     void ResetDropItem() override;
     zbIBrowserSelectionManager* GetSelectionManager() const override;
+    zbBrowserSelectionManager* GetSelectionManagerPtr() const;
     //! \}
 
     //! \name 6. Listing and expansion
@@ -329,6 +385,10 @@ public:
     //! \return true if there is any. False for null, with `out` untouched, and for a row.
     //! Cost: O(children); if no row is hidden, one block copy.
     bool GetChildren(std::vector<zbIBrowserViewItem*>& out, zbIBrowserViewItem const* item) const;
+    //! Expands the folders around each item, in order; of a folder also itself.
+    //! Signals: `ViewItemExpanded` for each folder that was closed, a folder before the one that it
+    //! stands in.
+    //! Failure: throws the zbString for a null item or one of another view.
     void ExpandAscendants(std::vector<zbIBrowserViewItem*> const& items);
     void ExpandAllItems() override;
     void ExpandSelectedItems() override;
@@ -346,23 +406,98 @@ public:
                                         bool forward) const override;
     //! \}
 
-    //! \name 7. Columns, styles, filter, menus, collector
+    //! \name 7. View properties
+    //! Each view property belongs to one view; one of another view is answered like one that is not
+    //! there. The pointers stay valid as long as the view, see zbIBrowserViewProperty.
     //! \{
-    bool CreateViewOperation(char const* name) override;
-    zbIBrowserCollector* GetCollectorHandler() const override;
+    zbIBrowserViewProperty* FindViewProperty(zbString const& name) const override;
+    void CreateViewProperty(char const* name) override;
+    bool DeleteViewProperty(zbIBrowserViewProperty* property) override;
+    bool GetViewPropertyList(std::vector<zbIBrowserViewProperty*>& out) const override;
+    void UpdateViewPropertyType(zbString const& name, ZBBROWSER_DATA_TYPE type) override;
+
+    //! Connects a data property for a source. A source that has a connection keeps it, and the
+    //! answer is true all the same; the new generation overwrites.
+    //! Failure, of all three: false for null or unknown properties; GetState() is false then, and
+    //! the text is empty.
+    bool CreateVPConnect(zbIBrowserViewProperty* property, zbIBrowserDataSourceSimple* source,
+                         zbIBrowserDataProperty* dataProperty);
+    //! Makes the text the set script of the property and takes away its get script.
+    bool CreateVPConnect(zbIBrowserViewProperty* property, char const* script);
+    //! Takes the connection of a source away; true also if there was none. The new generation
+    //! answers false then.
+    bool DeleteVPConnect(zbIBrowserViewProperty* property, zbIBrowserDataSourceSimple* source);
+    //! \}
+
+    //! \name 8. Columns and styles
+    //! \{
+    bool GetColumns(std::vector<zbIBrowserViewColumn*>& out) const override;
+    zbIBrowserViewColumn* GetDefaultColumn() const override;
+    zbBrowserViewColumnDefault* GetDefaultColumnPtr() const;
+    zbIBrowserViewColumn* FindColumn(char const* name) const override;
+    //! The column itself if it is one of this view. Null: for any other.
+    zbIBrowserViewColumn* FindColumn(zbIBrowserViewColumn const* const column) const;
+    //! The same for scripted columns only.
+    zbBrowserViewColumnCustom* FindScriptedColumn(zbIBrowserViewColumn const* const column) const;
+
+    //! Adds a column without a signal and without looking whether there is one of that name; the
+    //! Create operations look. Null: for null. Clears the error state.
+    zbBrowserViewColumnCustom* CreateColumnCustom(char const* name);
+    bool CreateIconColumn(char const* name, char const*, char const*) override;
+    bool CreateButtonColumn(char const* name, char const*) override;
+    bool CreateCheckBoxColumn(char const* name, char const*) override;
+    bool CreateTextBoxColumn(char const* name, char const*) override;
+    bool CreateComboBoxColumn(char const* name, char const*) override;
+    bool DeleteScriptedColumn(zbIBrowserViewColumn* column) override;
+    bool ShowScriptedColumn(zbIBrowserViewColumn* const column, bool show) override;
+    bool GetItalic() const override;
+    bool SetItalic(bool italic) override;
+
     zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewColumn* const column,
                                       zbIBrowserViewItem* const item) const override;
     bool SetViewItemStyle(zbIBrowserViewItem* const item) override;
+    //! Takes the styles of its own from a folder. True also if it had none. False: for null and for
+    //! an item of another view.
+    bool RemoveViewItemStyle(zbIBrowserViewItem* const item);
+    bool DeleteStyleElement(zbIBrowserStyleElement* element) override;
     bool IsTextBold(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
                     bool& out) const override;
     bool IsTextItalic(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
                       bool& out) const override;
-    bool GetColumns(std::vector<zbIBrowserViewColumn*>& out) const override;
-    zbIBrowserViewColumn* GetDefaultColumn() const override;
-    zbIBrowserViewColumn* FindColumn(char const* name) const override;
+    //! Whether the check box of a row is set, in `out`: the value of "default_italic_text_prop".
+    //! False: for folders and groups, for null and for an element of another view. Whether the
+    //! column allows italic texts does not matter.
+    bool GetCheckBoxValue(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
+                          bool& out) const;
+    void OnGuiMapDeleted(zbString const& name);
+    //! \}
+
+    //! \name 9. Sorting
+    //! \{
+    zbIBrowserViewColumn* GetSortedColumn() const override;
+    bool GetAscendingOrder(zbIBrowserViewColumn* const column, bool& out) const override;
+    bool SetAscendingOrder(zbIBrowserViewColumn* const column, bool ascending) override;
+    bool GetSorting() const override;
+    bool SetSorting(bool sorting) override;
+    zbBrowserSortHandler* GetSortHandlerPtr() const;
+
+    //! The lists of all folders are sorted anew when they are next read.
+    //! Cost: O(folders).
+    void SetAllDataItemListsUnsorted();
+
+    //! The name of a data property by which the groups of a source are sorted under the default
+    //! column, before the name. "": by name. True. It takes effect with the next sort.
+    bool SetSortDefaultColumnByCustomProperty(zbString const& name);
+    //! Reads that name; true. Sorts nothing.
+    bool SortDefaultColumnByCustomProperty(zbString& name);
+    //! \}
+
+    //! \name 10. Filter, menus, collector
+    //! \{
+    bool CreateViewOperation(char const* name) override;
+    zbIBrowserCollector* GetCollectorHandler() const override;
     zbIBrowserViewOperation* FindViewOperation(char const* name) const override;
     void PerformVOPAttachedToGvnDOP(char const* name) override;
-    bool EditSelectedDataItem(char const* operation) override;
     bool GetFilterNames(std::vector<zbIBrowserDataSourceSimple*>& out) const override;
     bool GetCurrentFilter(std::vector<zbIBrowserDataSourceSimple*>& out) const override;
     bool GetFilterByName(bool& out) const override;
@@ -375,15 +510,6 @@ public:
     bool FindPopupMenu(zbIBrowserPopupMenu* const menu) const override;
     zbIBrowserPopupMenu* FindPopupMenu(char const* name) const override;
     bool GetAllPopupMenus(std::vector<zbIBrowserPopupMenu*>& out) override;
-    zbIBrowserViewColumn* GetSortedColumn() const override;
-    bool GetAscendingOrder(zbIBrowserViewColumn* const column, bool& out) const override;
-    bool GetSorting() const override;
-    bool GetItalic() const override;
-    zbIBrowserViewProperty* FindViewProperty(zbString const& name) const override;
-    void CreateViewProperty(char const* name) override;
-    bool DeleteViewProperty(zbIBrowserViewProperty* property) override;
-    bool GetViewPropertyList(std::vector<zbIBrowserViewProperty*>& out) const override;
-    void UpdateViewPropertyType(zbString const& name, ZBBROWSER_DATA_TYPE type) override;
     void GetFilterMapNames(zbString& out) const override;
     char const* GetCollectorGuiMapName() const override;
     bool IsBrowserCollectorOn() const override;
@@ -396,22 +522,11 @@ public:
     void SetCollectorEnable(bool enable) override;
     bool IsCollectorEnable() const override;
     bool PerformCollectorOperation(ZBBROWSER_COLSEL_TYPE type) const override;
-    bool CreateIconColumn(char const* name, char const*, char const*) override;
-    bool CreateButtonColumn(char const* name, char const*) override;
-    bool CreateCheckBoxColumn(char const* name, char const*) override;
-    bool CreateTextBoxColumn(char const* name, char const*) override;
-    bool CreateComboBoxColumn(char const* name, char const*) override;
-    bool DeleteScriptedColumn(zbIBrowserViewColumn* column) override;
-    bool ShowScriptedColumn(zbIBrowserViewColumn* const column, bool show) override;
-    bool DeleteStyleElement(zbIBrowserStyleElement* element) override;
     bool SetCurrentFilter(std::set<zbIBrowserDataSourceSimple*> const& sources) override;
     bool SetFilterLookupString(zbString const& text) override;
     bool SetFilterMatchCaseFlag(bool match) override;
     bool SetFilterMatchWordFlag(bool match) override;
     bool GetFilterMatchWordFlag(bool& out) override;
-    bool SetSorting(bool sorting) override;
-    bool SetAscendingOrder(zbIBrowserViewColumn* const column, bool ascending) override;
-    bool SetItalic(bool italic) override;
     bool SetFilterGrouping(bool grouping) override;
     bool GetFilterGrouping() const override;
     bool RebuildFilterLists() const override;
@@ -440,6 +555,12 @@ private:
     void DeleteViewItems(zbbrowser::detail::DetachedLeaves& leaves, bool silent);
     friend class zbBrowserFreeFolderContent;
 
+    //! In this order; each leaves what is there.
+    void CreateViewPropertyHolder();
+    void CreateDefaultViewProperties();
+    void CreateDefaultColumn();
+    void CreateSortHandler();
+
     void CleanUp();
     //! Forgets all data and content of a view that was given up while an operation of it is
     //! running.
@@ -454,6 +575,20 @@ private:
     bool Collapse(zbIBrowserViewItem* item);
     void Hide(zbIBrowserViewItem* item);
     void ExpandAscendants(zbIBrowserViewItem const* item) const;
+    void DataItemsSelected(std::vector<zbIBrowserDataItemSimple*> const& simple,
+                           std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical,
+                           bool clear);
+    void DataItemsDeselected(std::vector<zbIBrowserDataItemSimple*> const& simple,
+                             std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical);
+    std::vector<zbIBrowserDataItemSimple*>
+    ConnectedItems(std::vector<zbIBrowserDataItemSimple*> const& items) const;
+    std::vector<zbIBrowserDataItemHierarchical*>
+    ConnectedItems(std::vector<zbIBrowserDataItemHierarchical*> const& items, bool first) const;
+    std::vector<zbIBrowserViewItem*>
+    ItemsOf(std::vector<zbIBrowserDataItemSimple*> const& simple,
+            std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical);
+    //! Selects an item alone, or deselects it, then with `recursive` with all that stands in it.
+    void SelectViewItem(zbIBrowserViewItem* item, bool select, bool recursive);
     void OnUpdateViewSelection(std::vector<zbIBrowserViewItem*> const& items, bool select,
                                bool clear);
     void OnPopupSelection(bool flag);
@@ -475,8 +610,7 @@ private:
     zbIBrowserDataCtrl* dataCtrl_ = nullptr;       // Not owned; null until it is set
     zbBrowserViewItemVirtualRoot* root_ = nullptr; // Owned unless this is a copy
     std::unique_ptr<zbbrowser::detail::ConnectedSources> sources_;
-    zbbrowser::detail::OldViewContext* context_;       // Owned unless this is a copy
-    zbIBrowserViewItem* lastFindStartPoint_ = nullptr; // Not owned; never followed
+    zbbrowser::detail::OldViewContext* context_; // Owned unless this is a copy
     bool sorting_ = true;
     bool italic_ = true;
     bool showEmptyFolders_ = true;

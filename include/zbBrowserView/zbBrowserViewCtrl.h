@@ -26,6 +26,9 @@ class zbIBrowserViewItemFreeFolder;
 namespace zbbrowser {
 struct PendingViewChangeInfo;
 class ViewsInfo;
+namespace detail {
+class ViewContext;
+}
 } // namespace zbbrowser
 
 //! The root object: a host makes one with CreateBrowserViewCtrl, and then talks to its views
@@ -340,6 +343,7 @@ protected:
 
 private:
     friend class zbBrowserManager;
+    friend class zbbrowser::detail::ViewContext;
 
     struct Owned;
 
@@ -351,6 +355,8 @@ private:
     void DeleteSharedDSHHandler();
 
     zbbrowser::ViewsInfo* GetViewsInfo() const;
+    //! Keeps a part of a view until all views have gone: hosts may hold it longer than the view.
+    void KeepBeyondViews(std::shared_ptr<void> part);
     void SetError(char const* text);
     void SetOk();
     void InCB(bool running);

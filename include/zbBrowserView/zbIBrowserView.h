@@ -144,25 +144,31 @@ public:
     virtual bool GetFreeFolderAbsolutePathName(zbIBrowserViewItemFreeFolder const* folder,
                                                zbString& out) const = 0;
 
-    //! The style that a column uses for an item. Null: for a column that is null or of another
-    //! view, and when there is no style.
+    //! The style that a column uses for an item, see zbIBrowserStyleManager. Null: for a null item,
+    //! a column that is null or not of this view, and when there is no style.
+    //! Signals: `StyleCreated(style)` while the style is pending, at each call.
     virtual zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewColumn* const column,
                                               zbIBrowserViewItem* const item) const = 0;
 
-    //! Gives the item a style of its own in the default column. False: for an item that is null or
-    //! of another view.
+    //! Gives a free folder the current style of the default column, see
+    //! zbIBrowserStyleManager::AddFolderStyle. False: for an item that is null or of another view.
+    //! True for any other, also if the item is no folder or there is no style to give.
     virtual bool SetViewItemStyle(zbIBrowserViewItem* const item) = 0;
 
     virtual bool GetFreeFolderGroupLeafs(zbIBrowserViewItemFreeFolder* folder) const = 0;
     virtual bool GetFreeFolderStyle(zbIBrowserViewItemFreeFolder* folder) const = 0;
 
-    //! Whether the element's text is bold for that item, in `out`.
-    //! False, and `out` untouched: for a null argument, an element of another view, and whatever
-    //! the generation does not answer for.
+    //! Whether the element's text is bold for that item, in `out`. A free folder answers for itself
+    //! (New: never bold), a group of an old view is not bold, and a row of an old view is bold if
+    //! "default_bold_text_prop" says so.
+    //! False, and `out` untouched: for a null argument, an element of another view, a row or group
+    //! of a new view, and where the property has no value. True, and `out` untouched, for a row
+    //! while the data type of the property is not 1.
     virtual bool IsTextBold(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
                             bool& out) const = 0;
 
-    //! The same for italic; false also if italic is switched off.
+    //! The same for italic, with "default_italic_text_prop"; false also if the element's column has
+    //! italic switched off.
     virtual bool IsTextItalic(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
                               bool& out) const = 0;
     //! @}
@@ -170,13 +176,13 @@ public:
     //! \name Columns
     //! @{
 
-    //! Gives the default column and then the scripted ones in order of creation, without one that
-    //! is just being deleted.
+    //! Gives the default column and then the scripted ones in order of creation, hidden ones
+    //! included, without one that is just being deleted; true.
     virtual bool GetColumns(std::vector<zbIBrowserViewColumn*>& out) const = 0;
 
     virtual zbIBrowserViewColumn* GetDefaultColumn() const = 0;
 
-    //! The column of that name. Null: when there is none.
+    //! The column of that name, regardless of case, hidden ones included. Null: when there is none.
     virtual zbIBrowserViewColumn* FindColumn(char const* name) const = 0;
     //! @}
 
@@ -195,7 +201,8 @@ public:
     virtual void PerformVOPAttachedToGvnDOP(char const* dataOperation) = 0;
 
     //! Asks the host to edit the selected item in place.
-    //! Signals: `EditDataItem` if exactly one item is selected. False: otherwise.
+    //! Signals: `EditDataItem(operation, item)`, Old: with the first of the selected items.
+    //! False: nothing is selected, New: or more than one item.
     virtual bool EditSelectedDataItem(char const* operation) = 0;
     //! @}
 
@@ -255,8 +262,8 @@ public:
     //! Null: when the view is not sorted by a column.
     virtual zbIBrowserViewColumn* GetSortedColumn() const = 0;
 
-    //! Whether a column sorts ascending, in `out`. False: for a column that is null or of another
-    //! view.
+    //! Whether the view is sorted by that column ascending, in `out`. False: for a column that is
+    //! null or not of this view, and for any but the sorted one.
     virtual bool GetAscendingOrder(zbIBrowserViewColumn* const column, bool& out) const = 0;
 
     //! Whether columns sort when the user clicks them. True at first.
@@ -265,17 +272,23 @@ public:
     //! Whether texts may be italic. True at first.
     virtual bool GetItalic() const = 0;
 
-    //! The view property of that name. Null: when there is none.
+    //! The view property of that name, case included. Null: when there is none.
     virtual zbIBrowserViewProperty* FindViewProperty(zbString const& name) const = 0;
 
+    //! Adds a view property without connections. Does nothing if the name is taken, or null.
     virtual void CreateViewProperty(char const* name) = 0;
 
-    //! Takes a view property out of the view. The four default properties stay: false.
-    //! New: false also when the view has no scripted columns, although the property is gone then.
+    //! Takes a view property out of the view and out of the style elements that are bound to it;
+    //! the object lives on as long as the view. The four default properties stay: false. True if
+    //! the view has a scripted column. False if it has none, although the property is gone then as
+    //! well: ask FindViewProperty.
     virtual bool DeleteViewProperty(zbIBrowserViewProperty* property) = 0;
 
+    //! Gives the view properties in order of creation, the four default ones first; true.
     virtual bool GetViewPropertyList(std::vector<zbIBrowserViewProperty*>& out) const = 0;
 
+    //! Sets the data type of a property. Does nothing for a type outside 1 to 13 and for a name
+    //! that no property has.
     virtual void UpdateViewPropertyType(zbString const& name, ZBBROWSER_DATA_TYPE type) = 0;
     //! @}
 
@@ -356,8 +369,12 @@ public:
     //! \name Making columns
     //! @{
 
-    //! Makes a column of icons. False: when there is a column of that name; so the next and
-    //! CreateTextBoxColumn.
+    //! Makes a scripted column whose name and title are `name`, and marks it as one of icons. The
+    //! other texts are not used. The same goes for the next and CreateTextBoxColumn, without the
+    //! mark.
+    //! Signals: `ColumnCreated(column)`.
+    //! Failure: false if there is a column of that name, regardless of case, for null, and in a new
+    //! view for an empty name. Old: with an error text.
     virtual bool CreateIconColumn(char const* name, char const* title, char const* icon) = 0;
 
     //! The same as CreateTextBoxColumn.
@@ -372,12 +389,20 @@ public:
     //! Makes nothing and answers true.
     virtual bool CreateComboBoxColumn(char const* name, char const* title) = 0;
 
-    //! Deletes a scripted column. Null: false. A column that is not one of the view's: true.
+    //! Deletes a scripted column, and ends the sorting, whichever column the view is sorted by.
+    //! Null: false. A column that is not one of the view's: true.
+    //! Signals: `ColumnSortChanged(sorted column, false, false)` if the view is sorted, then
+    //! `ColumnDeleted(column)`, when GetColumns leaves it out and FindColumn still finds it.
     virtual bool DeleteScriptedColumn(zbIBrowserViewColumn* column) = 0;
 
-    //! Shows or hides a scripted column. Null: false. A column that is not one of the view's: true.
+    //! Shows or hides a scripted column. Hiding ends the sorting, whichever column the view is
+    //! sorted by. Null: false. A column that is not one of the view's: true.
+    //! Signals: when hiding, the one of the sorting as above; `ColumnShown(column)`;
+    //! `ColumnsChanged`. Old: also without a change. New: none without a change.
     virtual bool ShowScriptedColumn(zbIBrowserViewColumn* const column, bool show) = 0;
 
+    //! Takes an element out of its style. False: for null and an element of another view.
+    //! New: deletes nothing and answers true.
     virtual bool DeleteStyleElement(zbIBrowserStyleElement* element) = 0;
     //! @}
 
@@ -440,7 +465,8 @@ public:
     virtual bool SetListCaption(zbIBrowserViewItem* const folder,
                                 zbIBrowserDataSourceSimple* const source, char const* caption) = 0;
 
-    //! Sets what GetSorting tells, and tells the columns; true.
+    //! Sets what GetSorting tells, and tells the columns, see zbIBrowserViewColumn::SetSorting;
+    //! true. The view stays sorted as it is.
     virtual bool SetSorting(bool sorting) = 0;
 
     //! New: does nothing. So does the next one.
@@ -449,10 +475,18 @@ public:
     virtual void SetCreateExpandedItem(zbIBrowserViewItemFreeFolder* const folder,
                                        zbIBrowserDataSourceSimple* const source, int value) = 0;
 
-    //! Sorts the view by a column. False: for a column that is null or not of this view.
+    //! Sorts the view by a column. Rows are sorted when they are next listed; a mere change of the
+    //! direction only reads them backwards, rows that compare equal included.
+    //! Does nothing, and answers true, if the view is sorted that way already, unless the column is
+    //! marked with SetUnsorted.
+    //! Signals: Old: `SortChanging(true)`; `ColumnSortChanged(old column, false, ascending)` if
+    //! another column was sorted; `ColumnSortChanged(column, true, ascending)`, or Old:
+    //! `ColumnSortRepeated(column, true, ascending)` if it is sorted that way already;
+    //! `ViewChanged(view)`; Old: `SortChanging(false)`.
+    //! False: for a column that is null or not of this view.
     virtual bool SetAscendingOrder(zbIBrowserViewColumn* const column, bool ascending) = 0;
 
-    //! Sets what GetItalic tells, and tells the columns; true.
+    //! Sets what GetItalic tells, and tells the columns, see zbIBrowserViewColumn::SetItalic; true.
     virtual bool SetItalic(bool italic) = 0;
 
     //! Keeps the child folders of a folder in order of creation, or lets them be sorted. Null:

@@ -84,6 +84,13 @@ public:
         holes_ = 0;
     }
 
+    //! Gives the elements another order and closes the holes. Throws nothing.
+    //! Requires: `order` holds the same elements, which do not own what they point to.
+    void Reorder(std::vector<Pointer> const& order) {
+        slots_.assign(order.begin(), order.end());
+        holes_ = 0;
+    }
+
     void Clear() {
         slots_.clear();
         holes_ = 0;

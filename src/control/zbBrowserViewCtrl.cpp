@@ -15,6 +15,7 @@ using zbbrowser::detail::Fail;
 
 //! What a controller that is no copy owns.
 struct zbBrowserViewCtrl::Owned {
+    std::vector<std::shared_ptr<void>> partsOfViews; // First, so that they go last
     std::unique_ptr<zbIBrowserInfo> browserInfo;
     std::unique_ptr<SharedDSHHandler> sharedDSHHandler;
     std::unique_ptr<zbbrowser::ViewsInfo> viewsInfo;
@@ -69,6 +70,11 @@ zbBrowserViewCtrl::~zbBrowserViewCtrl() {
     DeleteViewsInfo();
     DeleteSharedDSHHandler();
     DeleteBrowserInfo();
+}
+
+void zbBrowserViewCtrl::KeepBeyondViews(std::shared_ptr<void> part) {
+    if (owned_ != nullptr)
+        owned_->partsOfViews.push_back(std::move(part));
 }
 
 void zbBrowserViewCtrl::CreateBrowserInfo() {

@@ -12,9 +12,24 @@
 namespace zbbrowser::detail {
 
 OldViewContext::OldViewContext(zbBrowserView& view, zbBrowserViewCtrl const* ctrl)
-    : ViewContext(view, ctrl)
+    : ViewContext(view, ctrl, Generation::Old)
     , oldView_(view)
     , leafMemory_(zbBrowserViewItemDataLeaf::memorySize) {
+}
+
+OldViewContext::~OldViewContext() = default;
+
+void OldViewContext::ClearError() {
+    oldView_.SetOk();
+}
+
+bool OldViewContext::Report(zbString const& text) {
+    oldView_.SetError(text);
+    return false;
+}
+
+bool OldViewContext::State() const {
+    return oldView_.GetState();
 }
 
 zbBrowserViewItemFreeFolder* OldViewContext::FindFolder(zbIBrowserViewItem const* item) const {
@@ -23,11 +38,18 @@ zbBrowserViewItemFreeFolder* OldViewContext::FindFolder(zbIBrowserViewItem const
 }
 
 zbBrowserViewItemDataLeaf* OldViewContext::FindLeaf(zbIBrowserViewItem const* item) const {
+    auto* const leaf = FindAnyLeaf(item);
+    return leaf != nullptr && leaf->IsListed() ? leaf : nullptr;
+}
+
+zbBrowserViewItemDataLeaf* OldViewContext::FindAnyLeaf(zbIBrowserViewItem const* item) const {
     if (!leafMemory_.Owns(item))
         return nullptr;
-    auto* const leaf =
-        static_cast<zbBrowserViewItemDataLeaf*>(const_cast<zbIBrowserViewItem*>(item));
-    return leaf->IsListed() ? leaf : nullptr;
+    return static_cast<zbBrowserViewItemDataLeaf*>(const_cast<zbIBrowserViewItem*>(item));
+}
+
+void OldViewContext::SelectViewItem(zbIBrowserViewItem& item, bool select, bool recursive) {
+    oldView_.SelectViewItem(&item, select, recursive);
 }
 
 void OldViewContext::RegisterFolder(zbBrowserViewItemFreeFolder& folder) {
@@ -36,9 +58,12 @@ void OldViewContext::RegisterFolder(zbBrowserViewItemFreeFolder& folder) {
 
 void OldViewContext::UnregisterFolder(zbBrowserViewItemFreeFolder const& folder) {
     folders_.erase(&folder);
+    OnFolderGone(folder);
 }
 
 DetachedLeaves::~DetachedLeaves() {
+    for (auto* const leaf : leaves_)
+        context_.Forget(*leaf);
     auto const destroy = [](void* leaf, void* context) {
         Destroy(*static_cast<zbBrowserViewItemDataLeaf*>(leaf),
                 *static_cast<OldViewContext*>(context));

@@ -7,6 +7,7 @@
 #include "view/HandlerSeams.h"
 #include "view/ViewContext.h"
 
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
@@ -23,6 +24,12 @@ class OldViewContext : public ViewContext {
 public:
     OldViewContext(zbBrowserView& view, zbBrowserViewCtrl const* ctrl);
 
+    ~OldViewContext() override;
+
+    void ClearError() override;
+    bool Report(zbString const& text) override;
+    bool State() const override;
+
     zbBrowserView& OldView() const { return oldView_; }
     HandlerSeams& Handlers() { return handlers_; }
     SlabPool& LeafMemory() { return leafMemory_; }
@@ -34,10 +41,18 @@ public:
     //! The same for a leaf. A leaf that is about to be freed is not found.
     zbBrowserViewItemDataLeaf* FindLeaf(zbIBrowserViewItem const* item) const;
 
-    //! It is a folder or a leaf of this view.
-    bool Owns(zbIBrowserViewItem const* item) const {
+    //! The same for a leaf, also one that is about to be freed.
+    zbBrowserViewItemDataLeaf* FindAnyLeaf(zbIBrowserViewItem const* item) const;
+
+    bool Owns(zbIBrowserViewItem const* item) const override {
         return FindFolder(item) != nullptr || FindLeaf(item) != nullptr;
     }
+    bool Knows(zbIBrowserViewItem const* item) const override {
+        return FindFolder(item) != nullptr || FindAnyLeaf(item) != nullptr;
+    }
+
+    //! See zbBrowserView::SelectViewItem.
+    void SelectViewItem(zbIBrowserViewItem& item, bool select, bool recursive);
 
     void RegisterFolder(zbBrowserViewItemFreeFolder& folder);
     void UnregisterFolder(zbBrowserViewItemFreeFolder const& folder);

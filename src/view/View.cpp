@@ -2,7 +2,8 @@
 //! \file
 //! zbbrowser::View: life, name, data control, connections, lock.
 #include "control/Messages.h"
-#include "view/ViewLifetime.h"
+#include "selection/SelectionBase.h"
+#include "view/NewViewContext.h"
 
 #include <zbBrowserView/host/zbBrowserSignalManager.h>
 #include <zbBrowserView/host/zbIBrowserDataCtrl.h>
@@ -30,40 +31,90 @@ bool HasName(char const* actual, char const* wanted) {
 
 } // namespace
 
+char const* const View::DEFAULT_NAME_PROP = "default_name_prop";
+char const* const View::DEFAULT_ICON_NAME_PROP = "default_icon_name_prop";
+char const* const View::DEFAULT_BOLD_TEXT_PROP = "default_bold_text_prop";
+char const* const View::DEFAULT_ITALIC_TEXT_PROP = "default_italic_text_prop";
+char const* const View::DEFAULT_COPYAT_OPERATION = "default_copyat_operation";
+char const* const View::DEFAULT_MOVETO_OPERATION = "default_moveto_operation";
+
+// Later parts read earlier ones from the view.
 View::View(zbBrowserViewCtrl const* ctrl, zbString const& name)
     : name_(name)
     , viewCtrl_(ctrl)
-    , lifetime_(std::make_unique<detail::ViewLifetime>()) {
+    , context_(nullptr) {
+    auto context = std::make_unique<detail::NewViewContext>(*this, ctrl);
+    context_ = context.get();
+    CreateVirtualRoot();
+    CreatePropertyHolder();
+    CreateDefaultViewProperties();
+    CreateDefaultColumn();
+    CreateSortHandler();
+    CreateSelectionManager();
+    static_cast<void>(context.release());
 }
 
 View::View(View const& other)
-    : View(other.viewCtrl_, other.name_) {
-    *this = other;
+    : zbIBrowserView(other)
+    , name_(other.name_)
+    , viewCtrl_(other.viewCtrl_)
+    , dataCtrl_(other.dataCtrl_)
+    , context_(other.context_)
+    , sorting_(other.sorting_)
+    , italic_(other.italic_)
+    , showEmptyFolders_(other.showEmptyFolders_)
+    , locked_(other.locked_)
+    , isCopy_(true)
+    , connectedSources_(other.connectedSources_)
+    , connectedReferences_(other.connectedReferences_) {
 }
 
+// What the target owned goes first; then it is a copy like any other. A view that is given the
+// value of one of its own copies goes on owning what they share.
 View& View::operator=(View const& other) {
     if (this == &other)
         return *this;
+    auto sources = other.connectedSources_;
+    auto references = other.connectedReferences_;
     name_ = other.name_;
+    if (context_ != other.context_) {
+        CleanUp();
+        isCopy_ = true;
+    }
     viewCtrl_ = other.viewCtrl_;
     dataCtrl_ = other.dataCtrl_;
+    context_ = other.context_;
     sorting_ = other.sorting_;
     italic_ = other.italic_;
     showEmptyFolders_ = other.showEmptyFolders_;
     locked_ = other.locked_;
-    connectedSources_ = other.connectedSources_;
-    connectedReferences_ = other.connectedReferences_;
+    connectedSources_ = std::move(sources);
+    connectedReferences_ = std::move(references);
     return *this;
 }
 
-View::~View() = default;
+View::~View() {
+    CleanUp();
+}
+
+void View::CleanUp() {
+    if (isCopy_)
+        return;
+    context_->Selection().ForgetAll();
+    DeleteSortHandler();
+    DeleteColumns();
+    DeletePropertyHolder();
+    DeleteVirtualRoot();
+    delete context_;
+    context_ = nullptr;
+}
 
 void View::Destroy(View* view) {
-    if (!view->lifetime_->IsBusy()) {
+    if (view->isCopy_ || !view->context_->Lifetime().IsBusy()) {
         delete view;
         return;
     }
-    view->lifetime_->GiveUp(view, [](void* gone) { delete static_cast<View*>(gone); });
+    view->context_->Lifetime().GiveUp(view, [](void* gone) { delete static_cast<View*>(gone); });
     view->LetGo();
 }
 
@@ -97,6 +148,14 @@ zbBrowserSignalManager* View::GetSignalManager() const {
     return viewCtrl_->GetSignalManager();
 }
 
+zbIBrowserViewItem* View::GetLastFindStartPoint() const {
+    return context_->lastFindStartPoint;
+}
+
+void View::SetLastFindStartPoint(zbIBrowserViewItem* item) {
+    context_->lastFindStartPoint = item;
+}
+
 bool View::IsNewView() const {
     return true;
 }
@@ -112,7 +171,7 @@ zbIBrowserDataCtrl* View::GetDataCtrl() const {
 }
 
 void View::OnDataControlDeleted(char const* name) {
-    detail::CallScope const scope(*lifetime_);
+    detail::CallScope const scope(context_->Lifetime());
     if (locked_ || dataCtrl_ == nullptr || !HasName(dataCtrl_->GetName(), name))
         return;
     SetDataCtrl(nullptr);
@@ -139,7 +198,7 @@ bool View::GetConnected(std::set<zbIBrowserDataReference*>& out) const {
 // A source may connect and disconnect while it is asked for its name, so the walk finds its place
 // anew each time.
 zbIBrowserDataSource* View::FindConnected(char const* name) {
-    detail::CallScope const scope(*lifetime_);
+    detail::CallScope const scope(context_->Lifetime());
     for (auto place = connectedSources_.begin(); place != connectedSources_.end();) {
         zbIBrowserDataSource* const source = *place;
         if (HasName(source->GetName(), name))
@@ -162,24 +221,6 @@ void View::Fill(PendingViewChangeInfo&) {
         detail::Fail(detail::UnexpectedGeneralError);
 }
 
-bool View::GetSorting() const {
-    return sorting_;
-}
-
-bool View::SetSorting(bool sorting) {
-    sorting_ = sorting;
-    return true;
-}
-
-bool View::GetItalic() const {
-    return italic_;
-}
-
-bool View::SetItalic(bool italic) {
-    italic_ = italic;
-    return true;
-}
-
 bool View::GetShowEmptyFoldersFlag() const {
     return showEmptyFolders_;
 }
@@ -188,6 +229,12 @@ void View::ShowEmptyFolders(bool show) {
     showEmptyFolders_ = show;
     if (zbBrowserSignalManager* const signals = GetSignalManager())
         signals->EmptyFoldersShown(this, show); // Last: a slot may delete this view
+}
+
+void View::CreateFilterHandler() {
+}
+
+void View::DeleteFilterHandler() {
 }
 
 // A folder of this generation never counts as empty, so there is nothing to ask it.

@@ -36,6 +36,9 @@ public:
     bool HasHostRun() const { return hostHasRun_; }
     void NoteHostRun() { hostHasRun_ = true; }
 
+    //! Objects that are held back now. While an operation runs, this grows with all that goes.
+    std::size_t RetiredCount() const { return retired_.size(); }
+
     //! Gives the view up: `destroy(view)` runs when the outermost operation returns.
     //! Requires: IsBusy().
     void GiveUp(void* view, void (*destroy)(void*));

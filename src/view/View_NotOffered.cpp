@@ -102,14 +102,6 @@ bool View::MakeCaptionBold(zbIBrowserViewItemFreeFolder* const, zbIBrowserDataSo
     return false;
 }
 
-bool View::CreateCheckBoxColumn(char const*, char const*) {
-    return true;
-}
-
-bool View::CreateComboBoxColumn(char const*, char const*) {
-    return true;
-}
-
 bool View::SetCurrentFilter(std::set<zbIBrowserDataSourceSimple*> const&) {
     return false;
 }

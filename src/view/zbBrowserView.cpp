@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The object, its parts and its accessors.
+#include "filtersort/SortHandlerBase.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
+#include "presentation/columns/ColumnSet.h"
+#include "selection/zbBrowserSelectionManager.h"
 #include "view/ConnectedSources.h"
 #include "view/OldViewContext.h"
 
@@ -21,8 +24,13 @@ zbBrowserView::zbBrowserView(zbBrowserViewCtrl const* ctrl, char const* name)
     , viewCtrl_(ctrl)
     , sources_(std::make_unique<ConnectedSources>()) {
     auto context = std::make_unique<OldViewContext>(*this, ctrl);
+    context->SetSelection(std::make_shared<zbBrowserSelectionManager>(*context));
     root_ = new zbBrowserViewItemVirtualRoot(*context);
     context_ = context.release();
+    CreateViewPropertyHolder();
+    CreateDefaultViewProperties();
+    CreateDefaultColumn();
+    CreateSortHandler();
 }
 
 zbBrowserView::zbBrowserView(zbBrowserView const& other)
@@ -34,7 +42,6 @@ zbBrowserView::zbBrowserView(zbBrowserView const& other)
     , root_(other.root_)
     , sources_(std::make_unique<ConnectedSources>(*other.sources_))
     , context_(other.context_)
-    , lastFindStartPoint_(other.lastFindStartPoint_)
     , sorting_(other.sorting_)
     , italic_(other.italic_)
     , showEmptyFolders_(other.showEmptyFolders_)
@@ -61,7 +68,6 @@ zbBrowserView& zbBrowserView::operator=(zbBrowserView const& other) {
     root_ = other.root_;
     sources_ = std::move(sources);
     context_ = other.context_;
-    lastFindStartPoint_ = other.lastFindStartPoint_;
     sorting_ = other.sorting_;
     italic_ = other.italic_;
     showEmptyFolders_ = other.showEmptyFolders_;
@@ -76,8 +82,11 @@ zbBrowserView::~zbBrowserView() {
 void zbBrowserView::CleanUp() {
     if (isCopy_)
         return;
+    context_->Selection().ForgetAll();
     delete root_;
     root_ = nullptr;
+    context_->SetColumns(nullptr);
+    context_->SetSortHandler(nullptr);
     delete context_;
     context_ = nullptr;
 }
@@ -132,11 +141,11 @@ zbIBrowserViewItemFreeFolder* zbBrowserView::GetRootFreeFolder() const {
 }
 
 zbIBrowserViewItem* zbBrowserView::GetLastFindStartPoint() const {
-    return lastFindStartPoint_;
+    return context_->lastFindStartPoint;
 }
 
 void zbBrowserView::SetLastFindStartPoint(zbIBrowserViewItem* item) {
-    lastFindStartPoint_ = item;
+    context_->lastFindStartPoint = item;
 }
 
 bool zbBrowserView::IsNewView() const {

@@ -4,8 +4,10 @@
 #include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "items/old/zbBrowserViewItemDataLeaf.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
+#include "selection/SelectionBase.h"
 #include "view/LongOperation.h"
 #include "view/OldViewContext.h"
+#include "view/zbBrowserView_Guarded.h"
 
 #include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
 #include <zbBrowserView/zbBrowserView.h>
@@ -35,17 +37,6 @@ void WalkContents(zbBrowserViewItemFreeFolder& root, Event event) {
 }
 
 } // namespace
-
-// The guard is a plain mark on purpose: it stays set when the work throws.
-template <class Work>
-void zbBrowserView::Guarded(Work work) {
-    if (inCallback_)
-        return;
-    CallScope const scope(context_->Lifetime());
-    inCallback_ = true;
-    work();
-    inCallback_ = false;
-}
 
 // Events on single items
 
@@ -123,7 +114,7 @@ void zbBrowserView::OnDataItemReparented(zbIBrowserDataItemHierarchical* const i
 
 void zbBrowserView::OnDataItemsRebuildAll() {
     Guarded([&] {
-        context_->Handlers().UpdateSelection({}, false, true);
+        context_->Selection().ClearSelected();
         WalkContents(*root_, [](zbBrowserFreeFolderContentHolder& holder) {
             holder.ForEach([](zbBrowserFreeFolderContent& c) { c.DeleteAllDependent(); });
         });
@@ -256,12 +247,13 @@ void zbBrowserView::DeleteViewItemList(Items& items, bool silent) {
 void zbBrowserView::DeleteViewItems(DetachedLeaves& leaves, bool silent) {
     if (leaves.IsEmpty())
         return;
-    auto const heard = !silent && context_->IsHeard(&zbBrowserSignalManager::ViewItemListDeleted);
-    auto items = heard || context_->Handlers().SelectsItems() ? leaves.Items() : Items();
-    context_->Handlers().UpdateSelection(items, false, false);
-    context_->Handlers().UpdatePreviousSelection();
-    if (heard)
-        context_->Raise(&zbBrowserSignalManager::ViewItemListDeleted, items);
+    auto& selection = context_->Selection();
+    selection.Update(leaves.Items(), false, false);
+    selection.UpdatePreviousSelection();
+    if (silent || !context_->IsHeard(&zbBrowserSignalManager::ViewItemListDeleted))
+        return;
+    auto items = leaves.Items();
+    context_->Raise(&zbBrowserSignalManager::ViewItemListDeleted, items);
 }
 
 // Through the controller, whose operation a host may have overridden.

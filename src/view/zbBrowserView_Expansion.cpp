@@ -1,17 +1,24 @@
 // SPDX-License-Identifier: MIT
 // Listing and expansion. What walks over selected items joins with the selection manager.
+#include "control/Messages.h"
+#include "items/old/zbBrowserViewItemDataLeaf.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
 #include "view/OldViewContext.h"
 
 #include <zbBrowserView/zbBrowserView.h>
 
+#include <unordered_set>
+
 using zbbrowser::detail::CallScope;
+using zbbrowser::detail::Fail;
+using zbbrowser::detail::OldViewContext;
 
 bool zbBrowserView::GetChildren(std::vector<zbIBrowserViewItem*>& out,
                                 zbIBrowserViewItem const* item) const {
     if (item == nullptr)
         return false;
-    auto const* const folder = FindFreeFolder(item);
+    CallScope const scope(context_->Lifetime());
+    auto* const folder = FindFreeFolder(item);
     if (folder == nullptr) {
         out.clear();
         return false;
@@ -46,10 +53,53 @@ bool zbBrowserView::CollapseFreeFolderList(zbIBrowserViewItemFreeFolder* folder,
     return found != nullptr && (found->CollapseList(list, recursive) || FailWith(*found));
 }
 
-void zbBrowserView::ExpandAscendants(std::vector<zbIBrowserViewItem*> const&) {
+namespace {
+
+using Folders = std::unordered_set<zbBrowserViewItemFreeFolder const*>;
+
+//! Expands a folder and those above it. Those in `done` stand open already, with all above them;
+//! a slot may have closed them since.
+void ExpandChain(zbBrowserViewItemFreeFolder& innermost, Folders& done) {
+    auto& context = innermost.Context();
+    for (auto* folder = &innermost; folder != nullptr && !folder->IsVirtualRoot();
+         folder = folder->Owner()) {
+        if (!folder->IsExpanded()) {
+            if (context.IsHeard(&zbBrowserSignalManager::ViewItemExpanded))
+                done.clear();
+            folder->Expand(false, false);
+        }
+        if (!done.insert(folder).second)
+            return;
+    }
 }
-void zbBrowserView::ExpandAscendants(zbIBrowserViewItem const*) const {
+
+//! An item may leave the view, or its whole folder, when a slot hears of an expansion.
+void ExpandAround(OldViewContext& context, zbIBrowserViewItem const* item, Folders& done) {
+    if (item == nullptr)
+        Fail(zbbrowser::detail::NullPointerHit);
+    auto* const leaf = context.FindLeaf(item);
+    auto* const folder = context.FindFolder(leaf == nullptr ? item : leaf->GetParentFreeFolder());
+    if (folder != nullptr)
+        ExpandChain(*folder, done);
+    else if (!context.Lifetime().HasHostRun())
+        Fail(zbbrowser::detail::DifferentManager);
 }
+
+} // namespace
+
+void zbBrowserView::ExpandAscendants(std::vector<zbIBrowserViewItem*> const& items) {
+    CallScope const scope(context_->Lifetime());
+    Folders done;
+    for (auto const* const item : items)
+        ExpandAround(*context_, item, done);
+}
+
+void zbBrowserView::ExpandAscendants(zbIBrowserViewItem const* item) const {
+    CallScope const scope(context_->Lifetime());
+    Folders done;
+    ExpandAround(*context_, item, done);
+}
+
 void zbBrowserView::ExpandAllItems() {
 }
 void zbBrowserView::ExpandSelectedItems() {

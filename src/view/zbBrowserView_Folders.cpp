@@ -3,12 +3,11 @@
 #include "control/Messages.h"
 #include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
+#include "view/FolderPath.h"
 #include "view/OldViewContext.h"
 
 #include <zbBrowserView/host/zbIBrowserDataSourceHierarchical.h>
 #include <zbBrowserView/zbBrowserView.h>
-
-#include <unordered_set>
 
 using zbbrowser::detail::CallScope;
 
@@ -208,25 +207,7 @@ bool zbBrowserView::IsEmptyFolderCanBeShown(zbIBrowserViewItem* const item) {
 // The host can write a parent that leads in a circle; such a path ends where it meets itself.
 bool zbBrowserView::GetFreeFolderAbsolutePathName(zbIBrowserViewItemFreeFolder const* folder,
                                                   zbString& out) const {
-    if (folder == nullptr)
-        return false;
-    out.clear();
-    if (folder->IsVirtualRoot()) {
-        out = "/";
-        return true;
-    }
-    std::vector<zbIBrowserViewItemFreeFolder const*> names;
-    std::unordered_set<zbIBrowserViewItemFreeFolder const*> seen;
-    for (auto const* parent = folder->GetParentFreeFolder();
-         parent != nullptr && seen.insert(folder).second; parent = folder->GetParentFreeFolder()) {
-        names.push_back(folder);
-        folder = parent;
-    }
-    for (auto name = names.rbegin(); name != names.rend(); ++name) {
-        out += "/";
-        out += (*name)->GetName();
-    }
-    return true;
+    return zbbrowser::detail::FolderPath(folder, out);
 }
 
 bool zbBrowserView::GetFreeFoldersFromViewItems(

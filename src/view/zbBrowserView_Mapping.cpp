@@ -1,18 +1,108 @@
 // SPDX-License-Identifier: MIT
-// From data items to view items, and the selection traffic, which joins with the selection manager.
+// From data items to view items and back, and the selection traffic.
 #include "items/old/FolderWalk.h"
 #include "items/old/zbBrowserFreeFolderContentHolder.h"
+#include "items/old/zbBrowserViewItemDataLeaf.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
+#include "selection/zbBrowserSelectionManager.h"
 #include "view/OldViewContext.h"
+#include "view/zbBrowserView_Guarded.h"
 
+#include <zbBrowserView/host/zbIBrowserDataItemHierarchical.h>
+#include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
 #include <zbBrowserView/zbBrowserView.h>
 
 using zbbrowser::detail::CallScope;
 using zbbrowser::detail::WalkFolders;
 
-void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemSimple* item,
-                                              std::vector<zbIBrowserViewItem*>& found,
-                                              std::vector<zbIBrowserViewItem*>& parents) {
+using Items = std::vector<zbIBrowserViewItem*>;
+using SimpleItems = std::vector<zbIBrowserDataItemSimple*>;
+using TreeItems = std::vector<zbIBrowserDataItemHierarchical*>;
+
+// From view items to data items
+
+bool zbBrowserView::GetDataItemsFromViewItems(Items const& items, TreeItems& out,
+                                              bool withDescendants) const {
+    return OLD_GetDataItemsFromViewItems(items, out, withDescendants);
+}
+
+bool zbBrowserView::GetDataItemsFromViewItems(Items const& items, SimpleItems& out,
+                                              bool withDescendants) const {
+    return OLD_GetDataItemsFromViewItems(items, out, withDescendants);
+}
+
+// The children of a group join here, in both directions.
+bool zbBrowserView::OLD_GetDataItemsFromViewItems(Items const& items, SimpleItems& out,
+                                                  bool withDescendants) const {
+    out.clear();
+    auto const append = [&out](zbIBrowserViewItem const& row) {
+        if (row.IsDataLeaf() && row.GetDataItemSimple() != nullptr)
+            out.push_back(row.GetDataItemSimple());
+    };
+    for (auto const* const item : items) {
+        if (auto const* const leaf = context_->FindAnyLeaf(item); leaf != nullptr) {
+            append(*leaf);
+            continue;
+        }
+        auto const* const folder = FindFreeFolder(item);
+        if (folder == nullptr)
+            return false;
+        Items rows;
+        folder->GetAllViewItems(rows, withDescendants);
+        for (auto const* const row : rows)
+            append(*row);
+    }
+    return true;
+}
+
+bool zbBrowserView::OLD_GetDataItemsFromViewItems(Items const& items, TreeItems& out,
+                                                  bool withDescendants) const {
+    CallScope const scope(context_->Lifetime());
+    out.clear();
+    auto const append = [&out](zbIBrowserViewItem const& row) {
+        if (row.GetDataItemHierarchical() != nullptr)
+            out.push_back(row.GetDataItemHierarchical());
+    };
+    for (auto const* const item : items) {
+        if (!context_->Knows(item))
+            return false;
+        auto const* const folder = FindFreeFolder(item);
+        Items rows;
+        if (folder == nullptr)
+            append(*item); // A row of a tree brings what is below it along
+        else
+            folder->GetAllViewItems(rows, withDescendants);
+        for (auto const* const row : rows)
+            append(*row);
+        if (folder != nullptr && withDescendants && !folder->IsExpanded())
+            AppendDescendentDataItems(out, TreeItems(out));
+    }
+    return true;
+}
+
+void zbBrowserView::AppendDescendentDataItems(TreeItems& out, TreeItems const& items) const {
+    CallScope const scope(context_->Lifetime());
+    TreeItems found;
+    for (auto* const item : items) {
+        auto* const tree = item == nullptr ? nullptr : item->GetDataSource();
+        if (tree == nullptr)
+            continue;
+        TreeItems below;
+        tree->GetChildren(item, below, nullptr, true);
+        found.insert(found.end(), below.begin(), below.end());
+    }
+    out.insert(out.end(), found.begin(), found.end());
+}
+
+bool zbBrowserView::GetSelectionTypes(Items const&, std::vector<zbIBrowserDataSourceSimple*>& out) {
+    out.clear();
+    return true;
+}
+
+// From data items to view items
+
+void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemSimple* item, Items& found,
+                                              Items& parents) {
     CallScope const scope(context_->Lifetime());
     WalkFolders(*root_, [&](zbBrowserViewItemFreeFolder& folder) {
         if (folder.IsBusy())
@@ -22,9 +112,8 @@ void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemSimple* item,
     });
 }
 
-void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemHierarchical* item,
-                                              std::vector<zbIBrowserViewItem*>& found,
-                                              std::vector<zbIBrowserViewItem*>& parents) {
+void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemHierarchical* item, Items& found,
+                                              Items& parents) {
     CallScope const scope(context_->Lifetime());
     WalkFolders(*root_, [&](zbBrowserViewItemFreeFolder& folder) {
         if (folder.IsBusy())
@@ -34,52 +123,190 @@ void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemHierarchical* it
     });
 }
 
-void zbBrowserView::OnDataItemsSelected(std::vector<zbIBrowserDataItemSimple*> const&,
-                                        std::vector<zbIBrowserDataItemHierarchical*> const&, bool) {
+Items zbBrowserView::ItemsOf(SimpleItems const& simple, TreeItems const& hierarchical) {
+    Items found;
+    Items ofTrees;
+    Items parents;
+    std::set<zbIBrowserDataItemHierarchical*> const wanted(hierarchical.begin(),
+                                                           hierarchical.end());
+    WalkFolders(*root_, [&](zbBrowserViewItemFreeFolder& folder) {
+        if (folder.IsBusy())
+            return false;
+        folder.RequireHolder().ForEach([&](zbBrowserFreeFolderContent& content) {
+            content.GetViewItems(simple, found, parents);
+        });
+        folder.RequireHolder().WithTree().GetViewItemsFromDataSet(wanted, ofTrees, parents);
+        return true;
+    });
+    found.insert(found.end(), ofTrees.begin(), ofTrees.end());
+    return found;
 }
-void zbBrowserView::OnDataItemsSelected(std::vector<zbIBrowserDataItemHierarchical*> const&, bool,
-                                        bool) {
+
+// What the data side selects
+
+SimpleItems zbBrowserView::ConnectedItems(SimpleItems const& items) const {
+    SimpleItems connected;
+    connected.reserve(items.size());
+    zbIBrowserDataSourceSimple const* lastConnected = nullptr;
+    for (auto* const item : items) {
+        auto const* const source = item == nullptr ? nullptr : item->GetDataSource();
+        if (source == nullptr)
+            continue;
+        if (source != lastConnected && GetDataSourceSimple(source) == nullptr)
+            continue;
+        lastConnected = source;
+        connected.push_back(item);
+    }
+    return connected;
 }
+
+TreeItems zbBrowserView::ConnectedItems(TreeItems const& items, bool first) const {
+    TreeItems connected;
+    for (auto* const item : items) {
+        if (item == nullptr || GetDataSourceHierarchical(item->GetDataSource()) == nullptr)
+            continue;
+        connected.push_back(item);
+        if (first)
+            break;
+    }
+    return connected;
+}
+
+void zbBrowserView::OnDataItemsSelected(SimpleItems const& simple, TreeItems const& hierarchical,
+                                        bool clear) {
+    CallScope const scope(context_->Lifetime());
+    if (context_->Selection().GetSyncFlag())
+        DataItemsSelected(ConnectedItems(simple), ConnectedItems(hierarchical, false), clear);
+}
+
+void zbBrowserView::OnDataItemsSelected(TreeItems const& items, bool clear, bool first) {
+    CallScope const scope(context_->Lifetime());
+    if (first || context_->Selection().GetSyncFlag())
+        DataItemsSelected({}, ConnectedItems(items, first), clear);
+}
+
+void zbBrowserView::OnDataItemsDeselected(SimpleItems const& simple,
+                                          TreeItems const& hierarchical) {
+    CallScope const scope(context_->Lifetime());
+    if (context_->Selection().GetSyncFlag())
+        DataItemsDeselected(ConnectedItems(simple), ConnectedItems(hierarchical, false));
+}
+
 void zbBrowserView::OnDataItemsSelected(std::vector<zbIBrowserDataItem*> const&, bool, bool) {
-}
-void zbBrowserView::OnDataItemsDeselected(std::vector<zbIBrowserDataItemSimple*> const&,
-                                          std::vector<zbIBrowserDataItemHierarchical*> const&) {
 }
 void zbBrowserView::OnDataItemsDeselected(std::vector<zbIBrowserDataItem*> const&) {
 }
 
+// Rows of trees are made when they are needed, so they are all made before one is looked for.
+void zbBrowserView::DataItemsSelected(SimpleItems const& simple, TreeItems const& hierarchical,
+                                      bool clear) {
+    Guarded([&] {
+        if (!hierarchical.empty()) {
+            WalkFolders(*root_, [](zbBrowserViewItemFreeFolder& folder) {
+                folder.RequireHolder().WithTree().BuildNextLevel(true, true);
+                return true;
+            });
+        }
+        auto found = ItemsOf(simple, hierarchical);
+        ExpandAscendants(found);
+        if (context_->Lifetime().HasHostRun())
+            std::erase_if(found, [this](auto const* item) { return !context_->Owns(item); });
+        context_->Selection().Update(found, true, clear);
+        auto* const manager = context_->IsAlive() ? context_->Manager() : nullptr;
+        if (manager == nullptr || found.empty() || !context_->ShowsSelectedItem() ||
+            !context_->Owns(found.front()))
+            return;
+        context_->Lifetime().NoteHostRun();
+        manager->ShowViewItem(found.front());
+    });
+}
+
+void zbBrowserView::DataItemsDeselected(SimpleItems const& simple, TreeItems const& hierarchical) {
+    Guarded([&] { context_->Selection().Update(ItemsOf(simple, hierarchical), false, false); });
+}
+
+// Forwarded to the selection manager
+
+zbIBrowserSelectionManager* zbBrowserView::GetSelectionManager() const {
+    return GetSelectionManagerPtr();
+}
+
+zbBrowserSelectionManager* zbBrowserView::GetSelectionManagerPtr() const {
+    return static_cast<zbBrowserSelectionManager*>(&context_->Selection());
+}
+
+void zbBrowserView::OnUpdateViewSelection(Items const& items, bool select, bool clear) {
+    context_->Selection().UpdateSelection(items, select, clear);
+}
+
+void zbBrowserView::OnPopupSelection(bool flag) {
+    context_->Selection().OnPopupSelection(flag);
+}
+
+bool zbBrowserView::IsViewItemSelected(zbIBrowserViewItem* item) {
+    return context_->Selection().IsViewItemSelected(item);
+}
+
 void zbBrowserView::UpdatePreviousSelection() {
-    context_->Handlers().UpdatePreviousSelection();
+    context_->Selection().UpdatePreviousSelection();
 }
 
 void zbBrowserView::OnSelectionChangeFinished() {
+    context_->Selection().OnSelectionChangeFinished();
+}
+
+void zbBrowserView::SetDropItem(zbIBrowserViewItem* item) {
+    context_->Selection().SetDropItem(item);
+}
+
+void zbBrowserView::ResetDropItem() {
+    context_->Selection().ResetDropItem();
 }
 
 void zbBrowserView::DeselectAllViewItems() {
-    CallScope const scope(context_->Lifetime());
-    context_->Handlers().UpdateSelection({}, false, true);
+    context_->Selection().Update({}, false, true);
 }
 
+void zbBrowserView::SelectViewItem(zbIBrowserViewItem* item, bool select, bool recursive) {
+    if (select)
+        context_->Selection().Update({item}, true, false);
+    else
+        DeselectViewItem(item, recursive);
+}
+
+// A folder stands before what is in it, and its folders before its rows. Groups and rows of trees,
+// which have something in them too, join here.
 void zbBrowserView::DeselectViewItem(zbIBrowserViewItem const* const item, bool recursive) {
+    auto* const folder = FindFreeFolder(item);
+    auto* const leaf = context_->FindLeaf(item);
+    if (leaf != nullptr)
+        context_->Selection().Update({leaf}, false, false);
+    if (folder == nullptr)
+        return;
     CallScope const scope(context_->Lifetime());
-    if (context_->Owns(item))
-        context_->Handlers().DeselectViewItem(*item, recursive);
+    Items items{folder};
+    if (recursive) {
+        WalkFolders(
+            *folder,
+            [&](zbBrowserViewItemFreeFolder& below) {
+                if (&below != folder)
+                    items.push_back(&below);
+                return true;
+            },
+            [&](zbBrowserViewItemFreeFolder& below) {
+                if (below.Holder() != nullptr)
+                    below.Holder()->AppendAllViewItems(items, true);
+            });
+    }
+    context_->Selection().Update(std::move(items), false, false);
 }
 
-void zbBrowserView::SetDropItem(zbIBrowserViewItem*) {
-}
-void zbBrowserView::ResetDropItem() {
-}
-zbIBrowserSelectionManager* zbBrowserView::GetSelectionManager() const {
-    return nullptr;
-}
-void zbBrowserView::OnUpdateViewSelection(std::vector<zbIBrowserViewItem*> const& items,
-                                          bool select, bool clear) {
+// One of several is as good as another: the first in the order of the selection.
+bool zbBrowserView::EditSelectedDataItem(char const* operation) {
+    Items selected;
+    if (!context_->Selection().GetSelectedViewItems(selected))
+        return false;
     CallScope const scope(context_->Lifetime());
-    context_->Handlers().UpdateSelection(items, select, clear);
-}
-void zbBrowserView::OnPopupSelection(bool) {
-}
-bool zbBrowserView::IsViewItemSelected(zbIBrowserViewItem*) {
-    return false;
+    context_->Raise(&zbBrowserSignalManager::EditDataItem, operation, selected.front());
+    return true;
 }

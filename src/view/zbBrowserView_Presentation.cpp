@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Columns, styles, properties, filter, sorting, menus, view operations and collector: the answers
-// of a view that has none of these handlers, and those that stay as they are.
+// Filter, menus, view operations and collector: the answers of a view that has none of these
+// handlers, and those that stay as they are.
 #include <zbBrowserView/zbBrowserView.h>
 
 // The new generation's part of the interface. Stays as it is.
@@ -35,107 +35,6 @@ bool zbBrowserView::GetFilterByName(bool&) const {
 }
 bool zbBrowserView::GetFilterUseRegExp(bool&) const {
     return false;
-}
-bool zbBrowserView::CreateCheckBoxColumn(char const*, char const*) {
-    return true;
-}
-bool zbBrowserView::CreateComboBoxColumn(char const*, char const*) {
-    return true;
-}
-
-// Marks
-
-bool zbBrowserView::GetSorting() const {
-    return sorting_;
-}
-bool zbBrowserView::GetItalic() const {
-    return italic_;
-}
-
-bool zbBrowserView::SetSorting(bool sorting) {
-    sorting_ = sorting;
-    return true;
-}
-
-bool zbBrowserView::SetItalic(bool italic) {
-    italic_ = italic;
-    return true;
-}
-
-// Columns and styles
-
-bool zbBrowserView::GetColumns(std::vector<zbIBrowserViewColumn*>& out) const {
-    out.clear();
-    return true;
-}
-zbIBrowserViewColumn* zbBrowserView::GetDefaultColumn() const {
-    return nullptr;
-}
-zbIBrowserViewColumn* zbBrowserView::FindColumn(char const*) const {
-    return nullptr;
-}
-bool zbBrowserView::CreateIconColumn(char const*, char const*, char const*) {
-    return false;
-}
-bool zbBrowserView::CreateButtonColumn(char const*, char const*) {
-    return false;
-}
-bool zbBrowserView::CreateTextBoxColumn(char const*, char const*) {
-    return false;
-}
-bool zbBrowserView::DeleteScriptedColumn(zbIBrowserViewColumn*) {
-    return false;
-}
-bool zbBrowserView::ShowScriptedColumn(zbIBrowserViewColumn* const, bool) {
-    return false;
-}
-zbIBrowserStyle* zbBrowserView::GetViewItemStyle(zbIBrowserViewColumn* const,
-                                                 zbIBrowserViewItem* const) const {
-    return nullptr;
-}
-bool zbBrowserView::SetViewItemStyle(zbIBrowserViewItem* const) {
-    return false;
-}
-bool zbBrowserView::DeleteStyleElement(zbIBrowserStyleElement*) {
-    return false;
-}
-bool zbBrowserView::IsTextBold(zbIBrowserViewItem* const, zbIBrowserStyleElement* const,
-                               bool&) const {
-    return false;
-}
-bool zbBrowserView::IsTextItalic(zbIBrowserViewItem* const, zbIBrowserStyleElement* const,
-                                 bool&) const {
-    return false;
-}
-void zbBrowserView::OnGuiMapDeleted(zbString const&) {
-}
-
-// Sorting
-
-zbIBrowserViewColumn* zbBrowserView::GetSortedColumn() const {
-    return nullptr;
-}
-bool zbBrowserView::GetAscendingOrder(zbIBrowserViewColumn* const, bool&) const {
-    return false;
-}
-bool zbBrowserView::SetAscendingOrder(zbIBrowserViewColumn* const, bool) {
-    return false;
-}
-
-// Properties
-
-zbIBrowserViewProperty* zbBrowserView::FindViewProperty(zbString const&) const {
-    return nullptr;
-}
-void zbBrowserView::CreateViewProperty(char const*) {
-}
-bool zbBrowserView::DeleteViewProperty(zbIBrowserViewProperty*) {
-    return false;
-}
-bool zbBrowserView::GetViewPropertyList(std::vector<zbIBrowserViewProperty*>&) const {
-    return false;
-}
-void zbBrowserView::UpdateViewPropertyType(zbString const&, ZBBROWSER_DATA_TYPE) {
 }
 
 // Filter
@@ -209,9 +108,6 @@ zbIBrowserViewOperation* zbBrowserView::FindViewOperation(char const*) const {
     return nullptr;
 }
 void zbBrowserView::PerformVOPAttachedToGvnDOP(char const*) {
-}
-bool zbBrowserView::EditSelectedDataItem(char const*) {
-    return false;
 }
 
 // Collector

@@ -134,7 +134,8 @@ TEST_F(ContentHolderTest, GroupingAListTakesItsRowsOutAndSignalsTheContentTwice)
     EXPECT_TRUE(holder.SetListGrouped(&part, true));
     EXPECT_THAT(Rows(folder), IsEmpty());
     EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemListDeleted [bolt nut pin]", "ViewItemChanged box",
+                ElementsAre("ViewItemsDeselected [bolt nut pin]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt nut pin]", "ViewItemChanged box",
                             "ViewContentChanged view", "ViewContentChanged view"));
 }
 
@@ -257,7 +258,7 @@ TEST_F(ContentHolderTest, AllRowsOfAllContentsAreCountedAndListed) {
     Items out{&root};
     holder.AppendAllViewItems(out, true);
 
-    EXPECT_EQ(holder.CountViewItems(), 2U);
+    EXPECT_EQ(holder.CountViewItems(false), 2U);
     EXPECT_THAT(NamesOf(out, host.calls), ElementsAre("/", "saw", "file"));
     EXPECT_TRUE(holder.HasVisibleItems());
 }

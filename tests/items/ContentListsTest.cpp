@@ -79,8 +79,10 @@ TEST_F(ContentListsTest, RemoveListDisconnectsLoudlyAndThenSignalsTheContent) {
 
     EXPECT_TRUE(content.RemoveList(&tool));
     EXPECT_TRUE(content.Lists().IsEmpty());
-    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemListDeleted [saw file]",
-                                             "ViewItemChanged box", "ViewContentChanged view"));
+    EXPECT_THAT(recorder.take(),
+                ElementsAre("ViewItemsDeselected [saw file]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [saw file]", "ViewItemChanged box",
+                            "ViewContentChanged view"));
 }
 
 TEST_F(ContentListsTest, RemoveListOfAnUnknownListIsFalse) {
@@ -180,7 +182,8 @@ TEST_F(ContentListsTest, RebuildDirtyRebuildsTheDirtyListsOnlyAndThenSignalsTheC
     content.RebuildDirty();
 
     EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemListDeleted [saw]", "ViewItemChanged box",
+                ElementsAre("ViewItemsDeselected [saw]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [saw]", "ViewItemChanged box",
                             "ViewItemChanged box", "ViewItemChanged /", "ViewContentChanged view"));
     EXPECT_TRUE(tool.dirty) << "a rebuild takes no mark away";
 }

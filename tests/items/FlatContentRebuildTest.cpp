@@ -34,7 +34,8 @@ TEST_F(RebuildTest, SignalsTheDeletedThenTheCreatedThenTheFolderAndThenTheFolder
     content.RebuildList(&part, false);
 
     EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemListDeleted [bolt pin]", "ViewItemCreated cam",
+                ElementsAre("ViewItemsDeselected [bolt pin]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt pin]", "ViewItemCreated cam",
                             "ViewItemCreated rod", "ViewItemChanged box", "ViewItemChanged box",
                             "ViewItemChanged /"));
 }
@@ -46,12 +47,13 @@ TEST_F(RebuildTest, WithoutAnyChangeOnlyFoldersAreSignalled) {
                 ElementsAre("ViewItemChanged box", "ViewItemChanged box", "ViewItemChanged /"));
 }
 
-TEST_F(RebuildTest, SilentReachesTheDeletedRowsOnly) {
+TEST_F(RebuildTest, SilentReachesTheDeletionOfRowsOnly) {
     part.Unlist("bolt");
     part.Add("cam");
     content.RebuildList(&part, true);
 
-    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemCreated cam", "ViewItemChanged box",
+    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemsDeselected [bolt]", "ViewItemsSelected []",
+                                             "ViewItemCreated cam", "ViewItemChanged box",
                                              "ViewItemChanged box", "ViewItemChanged /"));
 }
 
@@ -61,7 +63,8 @@ TEST_F(RebuildTest, ASourceWithoutItemsIsDisconnectedLoudlyAndTheFoldersFollow) 
 
     EXPECT_THAT(Rows(folder), IsEmpty());
     EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemListDeleted [bolt nut pin]", "ViewItemChanged box",
+                ElementsAre("ViewItemsDeselected [bolt nut pin]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt nut pin]", "ViewItemChanged box",
                             "ViewItemChanged box", "ViewItemChanged /"));
     EXPECT_EQ(content.FindList(&part), &part) << "the list itself stays";
 }

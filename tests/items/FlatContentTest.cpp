@@ -108,15 +108,17 @@ TEST_F(FlatContentTest, DisconnectListDeletesItsRowsAndKeepsTheOthersInOrder) {
     EXPECT_TRUE(content.DisconnectList(&part, false));
     EXPECT_THAT(Rows(folder), ElementsAre("saw", "file"));
     EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemListDeleted [bolt nut pin rod]", "ViewItemChanged box"));
+                ElementsAre("ViewItemsDeselected [bolt nut pin rod]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt nut pin rod]", "ViewItemChanged box"));
 }
 
-TEST_F(FlatContentTest, DisconnectListIsSilentWhenToldSo) {
+TEST_F(FlatContentTest, DisconnectListOnlyDeselectsWhenToldToBeSilent) {
     Show(folder, part);
 
     EXPECT_TRUE(content.DisconnectList(&part, true));
     EXPECT_THAT(Rows(folder), IsEmpty());
-    EXPECT_THAT(recorder.take(), IsEmpty());
+    EXPECT_THAT(recorder.take(),
+                ElementsAre("ViewItemsDeselected [bolt nut pin]", "ViewItemsSelected []"));
 }
 
 TEST_F(FlatContentTest, DisconnectListWithoutRowsSignalsTheFolderOnly) {
@@ -304,14 +306,14 @@ TEST_F(FlatContentTest, GetAllViewItemsAppendsAllRowsHiddenOnesIncluded) {
     content.GetAllViewItems(out, false);
 
     EXPECT_THAT(NamesOf(out, host.calls), ElementsAre("/", "saw", "file"));
-    EXPECT_EQ(content.CountViewItems(), 2U);
+    EXPECT_EQ(content.CountViewItems(false), 2U);
 }
 
 TEST_F(FlatContentTest, GetSortedItemsAppendsTheVisibleRows) {
     Show(folder, tool);
     Row(folder, "saw").SetHidden(true);
     Items out{&root};
-    content.GetSortedItems(out);
+    EXPECT_TRUE(content.GetSortedItems(out, false, true));
 
     EXPECT_THAT(NamesOf(out, host.calls), ElementsAre("/", "file"));
 }

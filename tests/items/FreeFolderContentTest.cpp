@@ -57,8 +57,10 @@ TEST_F(FreeFolderContentTest, DeleteListTakesItsRowsOutAndSignals) {
 
     EXPECT_THAT(Rows(folder), ElementsAre("saw", "file"));
     EXPECT_EQ(folder.FindList(&part), nullptr);
-    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemListDeleted [bolt nut pin]",
-                                             "ViewItemChanged box", "ViewContentChanged view"));
+    EXPECT_THAT(recorder.take(),
+                ElementsAre("ViewItemsDeselected [bolt nut pin]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt nut pin]", "ViewItemChanged box",
+                            "ViewContentChanged view"));
 }
 
 TEST_F(FreeFolderContentTest, DeletingAListThatIsNotThereIsFalseAndSilent) {
@@ -78,8 +80,10 @@ TEST_F(FreeFolderContentTest, DeleteListRecursiveReachesAllFoldersBelowAlsoPastE
     EXPECT_THAT(Rows(inner), IsEmpty());
     EXPECT_THAT(Rows(folder), IsEmpty());
     EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemListDeleted [bolt nut pin]", "ViewItemChanged box",
-                            "ViewContentChanged view", "ViewItemListDeleted [bolt nut pin]",
+                ElementsAre("ViewItemsDeselected [bolt nut pin]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt nut pin]", "ViewItemChanged box",
+                            "ViewContentChanged view", "ViewItemsDeselected [bolt nut pin]",
+                            "ViewItemsSelected []", "ViewItemListDeleted [bolt nut pin]",
                             "ViewItemChanged inner", "ViewContentChanged view"));
     EXPECT_FALSE(folder.DeleteListRecursive(&part)) << "no folder has it any more";
 }

@@ -45,14 +45,15 @@ TEST_F(FreeFolderExpansionTest, AFolderIsExpandedWhenThatIsSignalled) {
     EXPECT_THAT(recorder.take(), ElementsAre("ViewItemExpanded box"));
 }
 
-TEST_F(FreeFolderExpansionTest, CollapseClearsTheMarkOfThisFolderOnlyAndSignals) {
+TEST_F(FreeFolderExpansionTest, CollapseClearsTheMarkOfThisFolderOnlyDeselectsAndSignals) {
     folder.Expand(false, true);
     a.Expand(false, true);
     folder.Collapse(false, true, false);
 
     EXPECT_FALSE(folder.IsExpanded());
     EXPECT_TRUE(a.IsExpanded());
-    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemCollapsed box"));
+    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemsDeselected [a]", "ViewItemsDeselected [b]",
+                                             "ViewItemsDeselected [c]", "ViewItemCollapsed box"));
 }
 
 TEST_F(FreeFolderExpansionTest, CollapsingACollapsedFolderDoesNothing) {
@@ -61,12 +62,13 @@ TEST_F(FreeFolderExpansionTest, CollapsingACollapsedFolderDoesNothing) {
     EXPECT_THAT(recorder.take(), IsEmpty());
 }
 
-TEST_F(FreeFolderExpansionTest, CollapseIsSilentWhenToldSo) {
+TEST_F(FreeFolderExpansionTest, CollapseOnlyDeselectsWhenToldToBeSilent) {
     folder.Expand(false, true);
     folder.Collapse(true, true, true);
 
     EXPECT_FALSE(folder.IsExpanded());
-    EXPECT_THAT(recorder.take(), IsEmpty());
+    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemsDeselected [box]", "ViewItemsDeselected [a]",
+                                             "ViewItemsDeselected [b]", "ViewItemsDeselected [c]"));
 }
 
 TEST_F(FreeFolderExpansionTest, ExpandRecursiveOfOneLevelLeavesTheFoldersBelowAlone) {
@@ -120,8 +122,9 @@ TEST_F(FreeFolderExpansionTest, CollapseRecursiveCollapsesTheFoldersBelowFirst) 
         each->Expand(false, true);
     EXPECT_TRUE(folder.CollapseRecursive(true));
 
-    EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemCollapsed a", "ViewItemCollapsed b", "ViewItemCollapsed box"));
+    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemsDeselected [a]", "ViewItemCollapsed a",
+                                             "ViewItemsDeselected [b]", "ViewItemCollapsed b",
+                                             "ViewItemCollapsed box"));
     EXPECT_FALSE(folder.IsBusy());
 }
 
@@ -129,7 +132,7 @@ TEST_F(FreeFolderExpansionTest, CollapseRecursiveGoesBelowAFolderThatIsCollapsed
     b.Expand(false, true);
     folder.CollapseRecursive(true);
 
-    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemCollapsed b"));
+    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemsDeselected [b]", "ViewItemCollapsed b"));
 }
 
 TEST_F(FreeFolderExpansionTest, CollapseRecursiveOfOneLevelLeavesTheFoldersBelowAlone) {
@@ -157,7 +160,8 @@ TEST_F(FreeFolderExpansionTest, SetExpandedAllLeavesItsOwnMarkAlone) {
                 ElementsAre("ViewItemExpanded a", "ViewItemExpanded b", "ViewItemExpanded c"));
     folder.SetExpandedAll(false, false, true);
     EXPECT_FALSE(b.IsExpanded());
-    EXPECT_THAT(recorder.take(), IsEmpty());
+    EXPECT_THAT(recorder.take(), ElementsAre("ViewItemsDeselected [a]", "ViewItemsDeselected [b]",
+                                             "ViewItemsDeselected [c]"));
 }
 
 TEST_F(FreeFolderExpansionTest, SetExpandedAllHasNoGuard) {

@@ -284,13 +284,31 @@ TEST_F(ChildOrderTest, UnsortedGivesCreationOrderWhateverTheDirection) {
     EXPECT_THAT(ChildItems(false, false), ElementsAre("b", "a", "c"));
 }
 
-//! Nothing is sorted without a sort handler, but the direction is obeyed.
-TEST_F(ChildOrderTest, SortedAndDescendingGivesTheStoredOrderBackwards) {
+TEST_F(ChildOrderTest, SortedGivesTheNamesInOrderInTheDirectionThatIsAskedFor) {
     folder.SetKeepChildrenInOrder(false);
 
-    EXPECT_THAT(Children(true, false), ElementsAre("c", "a", "b"));
-    EXPECT_THAT(ChildItems(true, false), ElementsAre("c", "a", "b"));
-    EXPECT_THAT(Children(true, true), ElementsAre("b", "a", "c"));
+    EXPECT_THAT(Children(true, true), ElementsAre("a", "b", "c"));
+    EXPECT_THAT(Children(true, false), ElementsAre("c", "b", "a"));
+    EXPECT_THAT(ChildItems(true, false), ElementsAre("c", "b", "a"));
+}
+
+TEST_F(ChildOrderTest, CreationOrderIsStillThereAfterASort) {
+    folder.SetKeepChildrenInOrder(false);
+    Children(true, true);
+
+    EXPECT_THAT(Children(false, true), ElementsAre("b", "a", "c"));
+    EXPECT_EQ(folder.FindChildFreeFolder("B"), &b);
+}
+
+TEST_F(ChildOrderTest, FoldersThatComeAndGoAfterASortAreSortedAgain) {
+    folder.SetKeepChildrenInOrder(false);
+    Children(true, true);
+
+    NewFolder(folder, "aa");
+    View().DeleteFreeFolder(&b, false);
+    recorder.Discard();
+
+    EXPECT_THAT(Children(true, true), ElementsAre("a", "aa", "c"));
 }
 
 TEST_F(ChildOrderTest, HiddenFoldersAreAmongTheChildFoldersButNotShown) {

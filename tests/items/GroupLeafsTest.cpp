@@ -26,8 +26,10 @@ TEST_F(GroupLeafsTest, GroupLeafsMovesAllListsOfTheFolderAndOfThoseBelowChildren
     EXPECT_EQ(Grouped(inner).FindList(&part), &part);
     EXPECT_EQ(Grouped(folder).FindList(&tool), &tool);
     EXPECT_THAT(recorder.take(),
-                ElementsAre("ViewItemListDeleted [bolt nut pin]", "ViewItemChanged inner",
+                ElementsAre("ViewItemsDeselected [bolt nut pin]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt nut pin]", "ViewItemChanged inner",
                             "ViewContentChanged view", "ViewContentChanged view",
+                            "ViewItemsDeselected [saw file]", "ViewItemsSelected []",
                             "ViewItemListDeleted [saw file]", "ViewItemChanged box",
                             "ViewContentChanged view", "ViewContentChanged view"));
     EXPECT_FALSE(folder.IsBusy());

@@ -62,7 +62,7 @@ protected:
         return NamesOf(items, host.calls);
     }
     //! What is to be shown of a folder: child folders and rows, without the hidden ones.
-    Names Shown(Folder const& of) const {
+    Names Shown(Folder& of) const {
         Items items;
         of.GetChildren(items);
         return NamesOf(items, host.calls);

@@ -7,7 +7,10 @@
 #include "RecordingHost.h"
 #include "view/OldViewContext.h"
 
+#include <zbBrowserView/zbIBrowserSelectionManager.h>
+
 #include <algorithm>
+#include <functional>
 
 namespace zbtest {
 
@@ -44,6 +47,15 @@ std::string InvariantChecker::Check() {
     Expect(context.FolderCount() == folders_, "the register holds the folders of the view");
     Expect(root.IsVirtualRoot() && root.IsExpanded(), "the root is the root and open");
     Expect(view_.GetRootFreeFolder() == &root, "the root is one object");
+    Rows selected;
+    view_.GetSelectionManager()->GetSelectedViewItems(selected);
+    Expect(std::all_of(selected.begin(), selected.end(),
+                       [&](auto const* item) { return context.Owns(item); }),
+           "what is selected is there");
+    Expect(std::is_sorted(selected.begin(), selected.end(), std::less<>()),
+           "the selection stands in the order of addresses");
+    auto const* const start = view_.GetLastFindStartPoint();
+    Expect(start == nullptr || context.Owns(start), "the start of a search is there");
     Rows recursive;
     root.GetAllViewItems(recursive, true);
     Expect(recursive == allRows_, "all rows of the view are those of the folders in their order");

@@ -152,6 +152,10 @@ private:
         signals_.push_back(std::move(line));
         hostHasRun_ = true;
     }
+    //! Something is deselected that was not selected: the model selects nothing.
+    void Deselected(std::string const& names) { Signal("ViewItemsDeselected [" + names + "]"); }
+    //! Rows have gone in a list; their names, each behind a blank.
+    void RowsGone(std::string const& names, bool silent);
     void Changed(Folder const& folder) { Signal("ViewItemChanged " + NameOf(folder)); }
     void ContentChanged(View const& view) { Signal("ViewContentChanged " + view.name); }
     static bool HasVisible(Folder const& folder);

@@ -283,9 +283,7 @@ std::string Oracle::DeleteRows(ScriptStep const& step) {
             folder->rows.erase(row);
         }
     }
-    if (!names.empty() && !step.Flag(2)) {
-        Signal("ViewItemListDeleted [" + names.substr(1) + "]");
-    }
+    RowsGone(names, step.Flag(2));
     return "";
 }
 

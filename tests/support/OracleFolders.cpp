@@ -64,7 +64,16 @@ void Oracle::DropRows(Folder& folder, std::function<bool(Row const&)> const& goe
         }
     }
     std::erase_if(folder.rows, goes);
-    if (!names.empty()) {
+    RowsGone(names, false);
+}
+
+void Oracle::RowsGone(std::string const& names, bool silent) {
+    if (names.empty()) {
+        return;
+    }
+    Deselected(names.substr(1));
+    Signal("ViewItemsSelected []");
+    if (!silent) {
         Signal("ViewItemListDeleted [" + names.substr(1) + "]");
     }
 }

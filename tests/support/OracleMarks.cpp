@@ -123,7 +123,11 @@ std::string Oracle::CanBeShown(ScriptStep const& step) {
     if (folder == nullptr) {
         return "skip";
     }
-    return folder->showsWhenEmpty || !IsDataEmpty(*folder) ? "true" : "false";
+    if (folder->showsWhenEmpty || !IsDataEmpty(*folder)) {
+        return "true";
+    }
+    Deselected(NameOf(*folder));
+    return "false";
 }
 
 // Expansion
@@ -159,7 +163,8 @@ std::string Oracle::Collapse(ScriptStep const& step) {
         return "skip";
     }
     for (Folder* const folder : step.Flag(2) ? PreOrder(*top) : std::vector<Folder*>{}) {
-        if (folder != top) {
+        if (folder != top && folder->open) {
+            Deselected(NameOf(*folder));
             CloseFolder(*folder);
         }
     }

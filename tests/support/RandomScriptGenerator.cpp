@@ -47,12 +47,14 @@ Script ScriptGenerator::Next() {
     if (player_.IsCalm()) {
         return DrawStep();
     }
-    switch (numbers_.Below(5)) {
+    switch (numbers_.Below(6)) {
     case 0:
         return DrawAttack();
     case 1:
     case 2:
         return DrawAmbush();
+    case 3:
+        return DrawSelection();
     default:
         return DrawStep();
     }

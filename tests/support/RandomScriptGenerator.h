@@ -48,6 +48,7 @@ private:
     Script DrawEvent();
     Script DrawRebuild();
     Script DrawRows();
+    Script DrawSelection();
     Script DrawThrow();
 
     std::string AnyView();

@@ -14,6 +14,7 @@ Script ScriptGenerator::DrawAttack() {
         {3, &ScriptGenerator::DrawConnection},
         {5, &ScriptGenerator::DrawRebuild},
         {2, &ScriptGenerator::DrawRows},
+        {6, &ScriptGenerator::DrawSelection},
     });
     std::string const& on = AnyMoment();
     Script attacks;
@@ -73,6 +74,23 @@ ScriptStep ScriptGenerator::DrawVictim(std::string const& place, std::string con
         ScriptStep::Of("shows-when-empty", view + ":/", Flag(), true),
     };
     return numbers_.Pick(steps);
+}
+
+// The model of the view selects nothing, so these are for hostile scripts only.
+Script ScriptGenerator::DrawSelection() {
+    std::string const place = AnyPlace();
+    auto const rows = player_.RowNames(place);
+    std::string const row = rows.empty() ? "none" : numbers_.Pick(rows);
+    std::string const source = AnySource();
+    std::vector<ScriptStep> const steps = {
+        ScriptStep::Of("select", place, row, true, Flag()),
+        ScriptStep::Of("select", place, row, !numbers_.OneIn(3), numbers_.OneIn(4)),
+        ScriptStep::Of("select-data", AnyView(), source, AnyItem(source), Flag()),
+        ScriptStep::Of("deselect-data", AnyView(), source, AnyItem(source)),
+        ScriptStep::Of("deselect-below", place),
+        ScriptStep::Of("drop-item", place, row),
+    };
+    return {numbers_.Pick(steps)};
 }
 
 ScriptStep ScriptGenerator::DrawDeed(std::string const& place, std::string const& source,

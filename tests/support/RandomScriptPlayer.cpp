@@ -180,9 +180,10 @@ std::string ScriptPlayer::Finish() {
 
 std::vector<std::string> const& ScriptPlayer::Signals() {
     static std::vector<std::string> const names = {
-        "ViewItemCreated",   "ViewItemChanged",   "ViewItemDeleted",        "ViewItemListDeleted",
-        "ViewItemShown",     "ViewItemExpanded",  "ViewItemCollapsed",      "ViewContentChanged",
-        "EmptyFoldersShown", "FreeFolderCreated", "FreeFolderStyleChanged",
+        "ViewItemCreated",   "ViewItemChanged",     "ViewItemDeleted",        "ViewItemListDeleted",
+        "ViewItemShown",     "ViewItemExpanded",    "ViewItemCollapsed",      "ViewContentChanged",
+        "EmptyFoldersShown", "FreeFolderCreated",   "FreeFolderStyleChanged", "SelectionClearing",
+        "ViewItemsSelected", "ViewItemsDeselected",
     };
     return names;
 }
@@ -203,6 +204,7 @@ std::vector<std::string> const& ScriptPlayer::HostOperations() {
         "BeginChange",
         "EndChange",
         "OnViewLost",
+        "ShowViewItem",
     };
     return names;
 }
@@ -231,6 +233,9 @@ void ScriptPlayer::Listen() {
     hear(signals.EmptyFoldersShown, "EmptyFoldersShown");
     hearOf(signals.FreeFolderCreated, "FreeFolderCreated");
     hearOf(signals.FreeFolderStyleChanged, "FreeFolderStyleChanged");
+    hear(signals.SelectionClearing, "SelectionClearing");
+    hear(signals.ViewItemsSelected, "ViewItemsSelected");
+    hear(signals.ViewItemsDeselected, "ViewItemsDeselected");
     for (std::string const& operation : HostOperations()) {
         host_.calls.On(operation, [this, operation] { Reached(operation, true); });
     }
@@ -273,7 +278,8 @@ void ScriptPlayer::Reached(std::string const& what, bool inHost) {
 
 // An exception that an attack throws goes all the way; one that an attack causes ends with it.
 std::string ScriptPlayer::Perform(ScriptStep const& step) {
-    for (auto const* const handlers : {&DataHandlers(), &ViewHandlers(), &FolderHandlers()}) {
+    for (auto const* const handlers :
+         {&DataHandlers(), &ViewHandlers(), &FolderHandlers(), &SelectionHandlers()}) {
         auto const found = handlers->find(step.Name());
         if (found == handlers->end()) {
             continue;

@@ -75,6 +75,7 @@ private:
     static std::map<std::string, Handler> const& DataHandlers();
     static std::map<std::string, Handler> const& ViewHandlers();
     static std::map<std::string, Handler> const& FolderHandlers();
+    static std::map<std::string, Handler> const& SelectionHandlers();
 
     //! A host operation other than GetDataItems must not free data items without telling.
     [[nodiscard]] bool MayFree() const { return lookingCalls_ == 0; }
@@ -140,6 +141,13 @@ private:
     std::string BuildItem(ScriptStep const& step);
     std::string UnbuildItem(ScriptStep const& step);
     std::string DeleteRows(ScriptStep const& step);
+
+    // RandomScriptPlayer_Selection.cpp
+    std::string Select(ScriptStep const& step);
+    std::string SelectData(ScriptStep const& step);
+    std::string DeselectData(ScriptStep const& step);
+    std::string DeselectBelow(ScriptStep const& step);
+    std::string SetDropItem(ScriptStep const& step);
 
     // RandomScriptPlayer_Folders.cpp
     std::string MakeFolder(ScriptStep const& step);

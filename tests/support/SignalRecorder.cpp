@@ -4,6 +4,8 @@
 #include "RecordingHost.h"
 #include "ViewItemNames.h"
 
+#include <zbBrowserView/zbIBrowserStyle.h>
+#include <zbBrowserView/zbIBrowserViewColumn.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 
 #include <gtest/gtest.h>
@@ -227,11 +229,11 @@ std::string SignalRecorder::Text(zbIBrowserDataCollector* collector) const {
 }
 
 std::string SignalRecorder::Text(zbIBrowserViewColumn* column) const {
-    return column == nullptr ? "null" : "column";
+    return column == nullptr ? "null" : column->GetName();
 }
 
 std::string SignalRecorder::Text(zbIBrowserStyle* style) const {
-    return style == nullptr ? "null" : "style";
+    return style == nullptr ? "null" : style->GetName();
 }
 
 std::string SignalRecorder::Text(zbIBrowserPopupMenu* menu) const {

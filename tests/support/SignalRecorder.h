@@ -17,9 +17,9 @@ namespace zbtest {
 class RecordingHost;
 
 //! Listens to every signal of both managers and appends a line for each: the name of the signal and
-//! then its arguments, such as "ViewItemReparented bolt_1 box". Items, views, sources and controls
-//! are written by their names (NameOf in ViewItemNames.h), lists as "[a b]", texts in quotes, flags
-//! as true and false, columns, styles, menus and selection managers as "column" and so on.
+//! then its arguments, such as "ViewItemReparented bolt_1 box". Items, views, columns, styles,
+//! sources and controls are written by their names (NameOf in ViewItemNames.h), lists as "[a b]",
+//! texts in quotes, flags as true and false, menus and selection managers as "menu" and so on.
 //!
 //! A recorder that goes with lines that nobody took fails its test.
 class SignalRecorder final : public zbListener<single_threaded> {

@@ -217,8 +217,10 @@ TEST_F(DataSourcesTest, DisconnectingTakesTheListsOutOfAllFoldersAndTellsTheSour
     EXPECT_EQ(host.calls.Count("OnDisconnected", "part"), 1U);
     EXPECT_EQ(host.calls.Count("OnDisconnected", "tool"), 0U);
     EXPECT_THAT(signals.take(),
-                ElementsAre("ViewItemListDeleted [bolt_1]", "ViewItemChanged a",
-                            "ViewContentChanged view", "ViewItemListDeleted [bolt_1]",
+                ElementsAre("ViewItemsDeselected [bolt_1]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt_1]", "ViewItemChanged a",
+                            "ViewContentChanged view", "ViewItemsDeselected [bolt_1]",
+                            "ViewItemsSelected []", "ViewItemListDeleted [bolt_1]",
                             "ViewItemChanged b", "ViewContentChanged view"));
 }
 
@@ -292,7 +294,8 @@ TEST_F(DataSourcesTest, DisconnectingAllWithContentEmptiesTheFolders) {
     EXPECT_THAT(Rows(a), IsEmpty());
     EXPECT_EQ(view.FindList(&a, &part), nullptr);
     EXPECT_EQ(view.FindTree(&a, &tree), nullptr);
-    EXPECT_THAT(signals.take(), ElementsAre("ViewItemListDeleted [bolt_1]", "ViewItemChanged a",
+    EXPECT_THAT(signals.take(), ElementsAre("ViewItemsDeselected [bolt_1]", "ViewItemsSelected []",
+                                            "ViewItemListDeleted [bolt_1]", "ViewItemChanged a",
                                             "ViewContentChanged view", "ViewContentChanged view"));
 }
 

@@ -56,8 +56,10 @@ TEST_F(FolderSettingsTest, GroupingMovesTheListsBelowBeforeThoseOfTheFolder) {
 
     view.SetFreeFolderGroupLeafs(&a, true);
 
-    EXPECT_THAT(signals.take(), ElementsAre("ViewItemListDeleted [saw_1]", "ViewItemChanged b",
+    EXPECT_THAT(signals.take(), ElementsAre("ViewItemsDeselected [saw_1]", "ViewItemsSelected []",
+                                            "ViewItemListDeleted [saw_1]", "ViewItemChanged b",
                                             "ViewContentChanged view", "ViewContentChanged view",
+                                            "ViewItemsDeselected [bolt_1]", "ViewItemsSelected []",
                                             "ViewItemListDeleted [bolt_1]", "ViewItemChanged a",
                                             "ViewContentChanged view", "ViewContentChanged view",
                                             "FreeFolderStyleChanged a true"));
@@ -262,6 +264,7 @@ TEST_F(FolderSettingsTest, AFolderWhoseSourceHasItemsCanBeShown) {
     a.SetShowWhenEmpty(false, false);
     signals.Discard();
     EXPECT_FALSE(view.IsEmptyFolderCanBeShown(&a));
+    EXPECT_THAT(signals.take(), ElementsAre("ViewItemsDeselected [a]"));
     part.Add("bolt_1");
     EXPECT_TRUE(view.IsEmptyFolderCanBeShown(&a));
 }

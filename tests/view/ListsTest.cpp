@@ -96,8 +96,10 @@ TEST_F(ListsTest, ADeletedListTakesItsRowsAlong) {
     EXPECT_TRUE(view.DeleteList(&a, &part));
 
     EXPECT_EQ(Rows(a), (Names{"saw_1"}));
-    EXPECT_THAT(signals.take(), ElementsAre("ViewItemListDeleted [bolt_1 nut_2]",
-                                            "ViewItemChanged a", "ViewContentChanged view"));
+    EXPECT_THAT(signals.take(),
+                ElementsAre("ViewItemsDeselected [bolt_1 nut_2]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt_1 nut_2]", "ViewItemChanged a",
+                            "ViewContentChanged view"));
 }
 
 TEST_F(ListsTest, ADeletedListWithoutRowsDeletesNoItems) {

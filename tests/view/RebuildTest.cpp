@@ -93,7 +93,8 @@ TEST_F(RebuildTest, ADirtyListLosesAndGainsRowsAndTheOthersStayTheSameObjects) {
     EXPECT_EQ(Rows(a), (Names{"nut_2", "pin_3"}));
     EXPECT_EQ(Row(a, "nut_2"), survivor);
     EXPECT_THAT(signals.take(),
-                ElementsAre("ViewItemListDeleted [bolt_1]", "ViewItemCreated pin_3",
+                ElementsAre("ViewItemsDeselected [bolt_1]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [bolt_1]", "ViewItemCreated pin_3",
                             "ViewItemChanged a", "ViewItemChanged a", "ViewItemChanged /",
                             "ViewContentChanged view", "ViewContentChanged view",
                             "ViewContentChanged view", "ViewContentChanged view",
@@ -311,15 +312,18 @@ TEST_F(RebuildTest, RowsAreDeletedInOneSignalAndTheListComesBackEmpty) {
     view.DeleteViewItemList(items, false);
     EXPECT_THAT(items, IsEmpty());
     EXPECT_THAT(Rows(a), IsEmpty());
-    EXPECT_THAT(signals.take(), ElementsAre("ViewItemListDeleted [nut_2 bolt_1]"));
+    EXPECT_THAT(signals.take(),
+                ElementsAre("ViewItemsDeselected [nut_2 bolt_1]", "ViewItemsSelected []",
+                            "ViewItemListDeleted [nut_2 bolt_1]"));
 }
 
-TEST_F(RebuildTest, RowsAreDeletedSilentlyIfAsked) {
+TEST_F(RebuildTest, RowsThatAreDeletedSilentlyAreDeselectedAllTheSame) {
     Show(a, part);
     std::vector<zbIBrowserViewItem*> items{Row(a, "bolt_1")};
     view.DeleteViewItemList(items, true);
     EXPECT_EQ(Rows(a), (Names{"nut_2"}));
-    EXPECT_THAT(signals.take(), IsEmpty());
+    EXPECT_THAT(signals.take(),
+                ElementsAre("ViewItemsDeselected [bolt_1]", "ViewItemsSelected []"));
 }
 
 TEST_F(RebuildTest, AnEmptyListOfRowsIsNoSignal) {
@@ -334,7 +338,8 @@ TEST_F(RebuildTest, WhatIsNoRowOfTheViewIsPassedOver) {
     std::vector<zbIBrowserViewItem*> items{row, row, nullptr, &a,
                                            host.View("other").GetRootFreeFolder()};
     view.DeleteViewItemList(items, false);
-    EXPECT_THAT(signals.take(), ElementsAre("ViewItemListDeleted [bolt_1]"));
+    EXPECT_THAT(signals.take(), ElementsAre("ViewItemsDeselected [bolt_1]", "ViewItemsSelected []",
+                                            "ViewItemListDeleted [bolt_1]"));
     EXPECT_EQ(Rows(Root()), (Names{"a"}));
     std::vector<zbIBrowserViewItem*> stale{row};
     view.DeleteViewItemList(stale, false);

@@ -125,14 +125,20 @@ TEST_F(ViewObjectTest, SortingIsOnAtFirstAndIsStored) {
     EXPECT_FALSE(view.GetSorting());
     EXPECT_TRUE(view.SetSorting(true));
     EXPECT_TRUE(view.GetSorting());
+    EXPECT_EQ(signals.take(), (Names{"ColumnStateChanged default_column false",
+                                     "ColumnStateChanged default_column true"}));
 }
 
 TEST_F(ViewObjectTest, ItalicIsOnAtFirstAndIsStored) {
     EXPECT_TRUE(view.GetItalic());
     EXPECT_TRUE(view.SetItalic(false));
     EXPECT_FALSE(view.GetItalic());
+    signals.Discard();
     EXPECT_TRUE(view.SetItalic(true));
     EXPECT_TRUE(view.GetItalic());
+    EXPECT_EQ(signals.take(),
+              (Names{"ColumnStateChanged default_column true", "ColumnUpdated default_column"}))
+        << "the flag told is that of sorting";
 }
 
 TEST_F(ViewObjectTest, AFreshViewReportsNoError) {
@@ -207,7 +213,6 @@ Neutral const neutralAnswers[] = {
      }},
     {"IsBrowserCollectorOn", [](auto& v) { return !v.IsBrowserCollectorOn(); }},
     {"GetCollectorHandler", [](auto& v) { return v.GetCollectorHandler() == nullptr; }},
-    {"GetSelectionManager", [](auto& v) { return v.GetSelectionManager() == nullptr; }},
     {"CreatePopupMenu", [](auto& v) { return v.CreatePopupMenu("m") == nullptr; }},
     {"FindPopupMenu", [](auto& v) { return v.FindPopupMenu("m") == nullptr; }},
     {"DeletePopupMenu", [](auto& v) { return !v.DeletePopupMenu("m", true); }},
@@ -218,11 +223,6 @@ Neutral const neutralAnswers[] = {
          return !v.GetAscendingOrder(nullptr, out) && out;
      }},
     {"SetAscendingOrderOfNull", [](auto& v) { return !v.SetAscendingOrder(nullptr, true); }},
-    {"CreateViewPropertyWithoutHolder",
-     [](auto& v) {
-         v.CreateViewProperty("p");
-         return v.FindViewProperty("p") == nullptr;
-     }},
     {"DeleteViewPropertyNull", [](auto& v) { return !v.DeleteViewProperty(nullptr); }},
     {"DeleteScriptedColumnNull", [](auto& v) { return !v.DeleteScriptedColumn(nullptr); }},
     {"ShowScriptedColumnNull", [](auto& v) { return !v.ShowScriptedColumn(nullptr, true); }},

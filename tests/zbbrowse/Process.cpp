@@ -69,6 +69,7 @@ void Child::Become(Command const& command) {
     ApplyEnvironment(command.environment);
     std::vector<char*> arguments;
     auto copy = command.arguments;
+    arguments.reserve(copy.size() + 1);
     for (auto& argument : copy)
         arguments.push_back(argument.data());
     arguments.push_back(nullptr);

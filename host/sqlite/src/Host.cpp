@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "Connect.h"
+
 #include <zbBrowserView/sqlite/Error.h>
 #include <zbBrowserView/sqlite/Host.h>
 #include <zbBrowserView/zbBrowserView.h>
@@ -15,20 +17,29 @@ Host::Host(std::filesystem::path const& file, HostOptions const& options)
     , controller_(CreateBrowserViewCtrl(manager_.get())) {
     if (!controller_)
         throw std::bad_alloc();
-    CreateView(options.viewName);
+    CreateView(options);
     view_->SetDataCtrl(data_.get());
-    for (auto const& source : data_->Sources())
-        view_->DataSourceConnect(source.get());
+    ConnectSources();
 }
 
 Host::~Host() = default;
 
-void Host::CreateView(std::string const& name) {
-    if (!Manager::CreateView(*controller_, name.c_str(), false)) {
+void Host::CreateView(HostOptions const& options) {
+    auto const& name = options.viewName;
+    if (!Manager::CreateView(*controller_, name.c_str(), options.generation == Generation::New)) {
         char const* const reason = controller_->GetError();
         throw Error("view \"" + name + "\"", reason != nullptr ? reason : "cannot be made");
     }
-    view_ = controller_->OLD_FindView(zbString(name));
+    view_ = controller_->FindView(zbString(name));
+    oldView_ = controller_->OLD_FindView(zbString(name));
+}
+
+void Host::ConnectSources() {
+    auto* const name = view_->FindViewProperty(zbBrowserView::DEFAULT_NAME_PROP);
+    for (auto const& source : data_->Sources()) {
+        detail::Connect(*view_, *source);
+        detail::Connect(*view_, name, *source, &source->NameProperty());
+    }
 }
 
 zbIBrowserViewItemFreeFolder* Host::RootFolder() const {
@@ -47,7 +58,7 @@ zbIBrowserViewItemFreeFolder* Host::CreateFolder(zbIBrowserViewItemFreeFolder* p
 }
 
 bool Host::CreateList(zbIBrowserViewItemFreeFolder* folder, Source& source) {
-    return view_->CreateList(folder, &source, false);
+    return oldView_ != nullptr && oldView_->CreateList(folder, &source, false);
 }
 
 } // namespace zbsqlite

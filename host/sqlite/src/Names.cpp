@@ -12,10 +12,6 @@ namespace zbsqlite::detail {
 
 namespace {
 
-char Fold(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
 //! A length up to which the texts are the same byte for byte, found in large steps: what is sorted
 //! often begins alike.
 std::size_t EqualPrefix(std::string_view a, std::string_view b) {
@@ -42,8 +38,11 @@ int CompareFolded(std::string_view a, std::string_view b) {
         // Bytes count as unsigned.
         auto const left = static_cast<unsigned char>(Fold(a[i]));
         auto const right = static_cast<unsigned char>(Fold(b[i]));
-        if (left != right)
-            return left < right ? -1 : 1;
+        if (left == right)
+            continue;
+        if (a.substr(0, i).find('\0') != std::string_view::npos)
+            break;
+        return left < right ? -1 : 1;
     }
     return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Arena.h"
+#include "Ranking.h"
 
 #include <zbBrowserView/sqlite/Row.h>
 #include <zbBrowserView/sqlite/Source.h>
@@ -18,9 +19,13 @@ struct Source::RowStore {
     detail::Arena arena;   // Holds the records.
     std::vector<Row> rows; // Never grows once it is filled, so that rows keep their addresses.
     std::size_t textBytes = 0;
+    std::vector<detail::ColumnOrder> orders; // For each column of a record.
 
     std::size_t MemoryUsed() const {
-        return sizeof *this + arena.BytesTaken() + rows.capacity() * sizeof(Row);
+        std::size_t size = sizeof *this + arena.BytesTaken() + rows.capacity() * sizeof(Row);
+        for (detail::ColumnOrder const& order : orders)
+            size += sizeof order + order.MemoryUsed();
+        return size;
     }
 };
 

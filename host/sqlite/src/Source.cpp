@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Record.h"
+#include "RowName.h"
 #include "RowStore.h"
 
 #include <zbBrowserView/sqlite/DataCtrl.h>
 #include <zbBrowserView/sqlite/Source.h>
 
+#include <functional>
 #include <utility>
 
 namespace zbsqlite {
@@ -13,7 +15,8 @@ Source::Source(DataCtrl& control, Table const& table, std::string name, std::siz
     : control_(control)
     , table_(table)
     , name_(std::move(name))
-    , index_(index) {
+    , index_(index)
+    , rowName_(std::make_unique<RowName>(*this)) {
     properties_.reserve(table.columns.size());
     for (Column const& column : table.columns) {
         if (column.kind != ColumnKind::Hidden)
@@ -113,6 +116,19 @@ Row const* Source::FindRow(zbIBrowserDataItem const* item) const {
     if (item == nullptr || offset >= rows.size_bytes() || offset % sizeof(Row) != 0)
         return nullptr;
     return &rows[offset / sizeof(Row)];
+}
+
+zbIBrowserDataProperty& Source::NameProperty() const {
+    return *rowName_;
+}
+
+//! A cast costs more than a comparison of addresses, and painting and sorting ask a million times.
+Property const* Source::AsColumn(zbIBrowserDataProperty const* property) const {
+    auto const* const own = static_cast<Property const*>(property);
+    std::less_equal<> const notAfter;
+    bool const isOwn = !properties_.empty() && notAfter(&properties_.front(), own) &&
+                       notAfter(own, &properties_.back());
+    return isOwn ? own : nullptr;
 }
 
 std::size_t Source::IndexOf(Row const& row) const {

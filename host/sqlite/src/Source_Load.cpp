@@ -75,6 +75,7 @@ std::unique_ptr<Source::RowStore> Source::ReadRows() {
     // Grows without moving what it holds, and goes before the row objects are handed out.
     std::deque<std::byte const*> records;
     std::vector<Value> values(RecordColumns());
+    store->orders.resize(values.size());
     detail::Statement query(database, LoadQuery(), Place());
     while (query.Step()) {
         for (std::size_t i = 0; i < values.size(); ++i)

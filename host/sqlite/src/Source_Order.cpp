@@ -3,12 +3,12 @@
 //! The names of the rows of a source and their order.
 #include "Names.h"
 #include "Record.h"
+#include "RowStore.h"
 
 #include <zbBrowserView/sqlite/DataCtrl.h>
 
 #include <algorithm>
 #include <array>
-#include <functional>
 
 namespace zbsqlite {
 
@@ -48,6 +48,13 @@ void Source::ChooseName() {
     }
     if (nameColumns_.empty())
         rowidName_ = FindRowidName();
+}
+
+//! Loaded rows keep the rowid: it has its place in their records.
+void Source::NameRowsBy(Property const& column) {
+    nameColumns_ = {column.Index()};
+    if (!store_)
+        rowidName_ = {};
 }
 
 //! A column may bear one of the rowid's names and hide it.
@@ -101,14 +108,9 @@ Row const* Source::AnyRow(zbIBrowserDataItem const* item) const {
     return row != nullptr ? row : dynamic_cast<Row const*>(item);
 }
 
-//! A cast costs more than a comparison of addresses, and sorting makes millions of either.
 Property const* Source::AnyProperty(zbIBrowserDataProperty const* property) const {
-    auto const* const own = static_cast<Property const*>(property);
-    std::less_equal<> const notAfter;
-    if (!properties_.empty() && notAfter(&properties_.front(), own) &&
-        notAfter(own, &properties_.back()))
-        return own;
-    return dynamic_cast<Property const*>(property);
+    Property const* const column = AsColumn(property);
+    return column != nullptr ? column : dynamic_cast<Property const*>(property);
 }
 
 void Source::SetSortProperty(zbIBrowserDataProperty* property) {
@@ -137,8 +139,25 @@ bool Source::CompareValues(Row const* a, Property const* propertyOfA, Row const*
     if (&propertyOfA->GetSource() != &a->GetSource() ||
         &propertyOfB->GetSource() != &b->GetSource())
         return false;
-    cmp = Compare(propertyOfA->GetValue(*a), propertyOfB->GetValue(*b));
+    if (propertyOfA == propertyOfB)
+        cmp = a->GetSource().CompareByColumn(*a, *b, propertyOfA->Index());
+    else
+        cmp = Compare(propertyOfA->GetValue(*a), propertyOfB->GetValue(*b));
     return true;
+}
+
+//! Requires: two rows of this source, and a column of its records.
+int Source::CompareByColumn(Row const& a, Row const& b, std::size_t column) {
+    return store_->orders[column].Compare(store_->rows, column, a, b);
+}
+
+//! The one column that makes the names; nothing if there are more or none.
+std::optional<std::size_t> Source::NameColumn() const {
+    if (nameColumns_.empty() && !rowidName_.empty())
+        return properties_.size(); // The rowid stands behind the columns.
+    if (nameColumns_.size() == 1)
+        return nameColumns_.front();
+    return std::nullopt;
 }
 
 bool Source::CompareByName(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) {
@@ -146,8 +165,12 @@ bool Source::CompareByName(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cm
     Row const* const rowB = AnyRow(b);
     if (rowA == nullptr || rowB == nullptr)
         return false;
-    Source const& sourceA = rowA->GetSource();
-    Source const& sourceB = rowB->GetSource();
+    Source& sourceA = rowA->GetSource();
+    Source& sourceB = rowB->GetSource();
+    if (auto const column = sourceA.NameColumn(); column && &sourceA == &sourceB) {
+        cmp = sourceA.CompareByColumn(*rowA, *rowB, *column);
+        return true;
+    }
     std::size_t const parts = std::max(sourceA.NameParts(), sourceB.NameParts());
     int order = 0;
     for (std::size_t i = 0; i < parts && order == 0; ++i)

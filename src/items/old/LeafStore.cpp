@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "items/old/LeafStore.h"
 
+#include "containers/Prefetch.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -30,6 +32,7 @@ void LeafStore::Append(Leaf& leaf, zbIBrowserDataSource const* source) {
                           [&](Slot candidate) { return slots_[candidate]->dataItem_ == item; });
     slots_.Append(&leaf);
     ++sources_[number].count;
+    ++changes_;
     leaf.slot_ = slot;
     leaf.sourceNumber_ = number & 0x3fffffffU;
     leaf.listed_ = 1;
@@ -39,10 +42,14 @@ void LeafStore::Append(Leaf& leaf, zbIBrowserDataSource const* source) {
 
 void LeafStore::Take(Leaf& leaf) {
     auto& source = sources_[leaf.sourceNumber_];
-    if (--source.count == 0)
+    if (--source.count == 0) {
         source.runs.clear();
+        source.isMixed = false;
+    }
     index_.Erase(leaf.dataItem_, leaf.slot_);
     slots_.Take(leaf.slot_);
+    ++changes_;
+    orderedEnd_ = std::min(orderedEnd_, static_cast<Slot>(slots_.Slots().size()));
     leaf.listed_ = 0;
     if (leaf.IsHidden())
         NoteHidden(false);
@@ -73,6 +80,8 @@ void LeafStore::Clear() {
     sourceNumbers_.clear();
     lastSource_ = nullptr;
     hidden_ = 0;
+    orderedEnd_ = 0;
+    ++changes_;
 }
 
 void LeafStore::MarkAllGone() {
@@ -91,11 +100,15 @@ void LeafStore::AppendAllTo(std::vector<zbIBrowserViewItem*>& out) const {
 }
 
 void LeafStore::AppendVisibleTo(std::vector<zbIBrowserViewItem*>& out, bool ascending) const {
+    auto const& slots = slots_.Slots();
     if (hidden_ == 0 && ascending) {
         AppendAllTo(out);
         return;
     }
-    auto const& slots = slots_.Slots();
+    if (hidden_ == 0 && !slots_.HasHoles()) {
+        out.insert(out.end(), slots.rbegin(), slots.rend());
+        return;
+    }
     auto const isVisible = [](Leaf const* leaf) { return leaf != nullptr && !leaf->IsHidden(); };
     out.reserve(out.size() + Count() - hidden_);
     if (ascending)
@@ -117,11 +130,14 @@ std::vector<LeafStore::Leaf*> LeafStore::SnapshotOf(zbIBrowserDataSource const* 
     auto const found = sourceNumbers_.find(source);
     if (found == sourceNumbers_.end())
         return leaves;
-    leaves.reserve(sources_[found->second].count);
-    for (auto const& run : sources_[found->second].runs) {
+    auto const number = found->second;
+    auto const& wanted = sources_[number];
+    leaves.reserve(wanted.count);
+    for (auto const& run : wanted.runs) {
         for (Slot slot = run.first; slot < run.last; ++slot) {
-            if (slots_[slot] != nullptr)
-                leaves.push_back(slots_[slot]);
+            auto* const leaf = slots_[slot];
+            if (leaf != nullptr && (!wanted.isMixed || leaf->sourceNumber_ == number))
+                leaves.push_back(leaf);
         }
     }
     return leaves;
@@ -133,14 +149,20 @@ std::size_t LeafStore::CountOf(zbIBrowserDataSource const* source) const {
 }
 
 std::vector<LeafStore::Leaf*>
-LeafStore::FindAll(std::set<zbIBrowserDataItemSimple*> const& items) const {
-    std::vector<Leaf*> found;
-    for (auto const* const item : items) {
-        if (auto* const leaf = Find(item); leaf != nullptr)
-            found.push_back(leaf);
+LeafStore::FindAll(std::vector<zbIBrowserDataItemSimple*> const& items) const {
+    std::vector<Slot> slots;
+    slots.reserve(items.size());
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (i + prefetchDistance < items.size())
+            PrefetchFind(items[i + prefetchDistance]);
+        if (auto const* const leaf = Find(items[i]); leaf != nullptr)
+            slots.push_back(leaf->slot_);
     }
-    std::sort(found.begin(), found.end(),
-              [](Leaf const* a, Leaf const* b) { return a->slot_ < b->slot_; });
+    std::sort(slots.begin(), slots.end());
+    slots.erase(std::unique(slots.begin(), slots.end()), slots.end());
+    std::vector<Leaf*> found(slots.size());
+    std::transform(slots.begin(), slots.end(), found.begin(),
+                   [this](Slot slot) { return slots_[slot]; });
     return found;
 }
 
@@ -163,26 +185,87 @@ std::uint32_t LeafStore::NumberOf(zbIBrowserDataSource const* source) {
 }
 
 void LeafStore::ExtendRuns(Source& source, Slot slot) {
-    if (source.runs.empty() || source.runs.back().last != slot)
+    if (source.runs.empty() || source.runs.back().last + bridgedSlots < slot)
         source.runs.push_back({slot, slot});
+    else if (source.runs.back().last != slot)
+        source.isMixed = true;
     source.runs.back().last = slot + 1;
 }
 
 void LeafStore::Compact() {
     std::vector<Slot> newSlot(slots_.Slots().size());
+    Slot ordered = 0;
     slots_.Compact([&](Leaf& leaf, Slot from, Slot to) {
         newSlot[from] = to;
         leaf.slot_ = to;
+        if (from < orderedEnd_)
+            ordered = to + 1;
     });
+    orderedEnd_ = ordered;
     index_.Renumber(newSlot);
     RebuildRuns();
 }
 
 void LeafStore::RebuildRuns() {
-    for (auto& source : sources_)
+    for (auto& source : sources_) {
         source.runs.clear();
+        source.isMixed = false;
+    }
     for (auto* const leaf : slots_.Slots())
         ExtendRuns(sources_[leaf->sourceNumber_], leaf->slot_);
+}
+
+std::size_t LeafStore::OrderedCount() const {
+    if (!slots_.HasHoles())
+        return orderedEnd_;
+    auto const begin = slots_.Slots().begin();
+    return orderedEnd_ - static_cast<std::size_t>(std::count(
+                             begin, begin + static_cast<std::ptrdiff_t>(orderedEnd_), nullptr));
+}
+
+void LeafStore::ForgetOrder() {
+    orderedEnd_ = 0;
+    ++changes_;
+}
+
+// Leaves lie all over the memory in any order but that of their creation, so they are fetched some
+// ahead.
+void LeafStore::Reorder(std::vector<zbIBrowserViewItem*> const& order) {
+    std::vector<Leaf*> leaves;
+    leaves.reserve(order.size());
+    std::vector<Slot> newSlot(slots_.Slots().size());
+    auto sources = SourcesInOrder(order);
+    for (auto* const item : order) {
+        auto const slot = static_cast<Slot>(leaves.size());
+        if (slot + prefetchDistance < order.size())
+            Prefetch(order[slot + prefetchDistance]);
+        auto* const leaf = static_cast<Leaf*>(item);
+        newSlot[leaf->slot_] = slot;
+        leaf->slot_ = slot;
+        leaves.push_back(leaf);
+    }
+    slots_.Reorder(leaves);
+    index_.Renumber(newSlot);
+    sources_ = std::move(sources);
+    orderedEnd_ = static_cast<Slot>(leaves.size());
+    ++changes_;
+}
+
+// With one source there is nothing to ask the leaves for.
+std::vector<LeafStore::Source>
+LeafStore::SourcesInOrder(std::vector<zbIBrowserViewItem*> const& order) const {
+    std::vector<Source> sources(sources_.size());
+    if (sources.size() == 1) {
+        sources.front() = {{{0, static_cast<Slot>(order.size())}}, order.size()};
+        return sources;
+    }
+    Slot slot = 0;
+    for (auto const* const item : order) {
+        auto& source = sources[static_cast<Leaf const*>(item)->sourceNumber_];
+        ExtendRuns(source, slot++);
+        ++source.count;
+    }
+    return sources;
 }
 
 bool LeafStore::IsConsistent() const {

@@ -7,7 +7,6 @@
 #include "containers/SlotVector.h"
 #include "items/old/zbBrowserViewItemDataLeaf.h"
 
-#include <set>
 #include <unordered_map>
 #include <vector>
 
@@ -71,8 +70,26 @@ public:
     std::vector<Leaf*> Snapshot() const;
     std::vector<Leaf*> SnapshotOf(zbIBrowserDataSource const* source) const;
     std::size_t CountOf(zbIBrowserDataSource const* source) const;
-    //! The leaves of these data items, in the order of the leaves.
-    std::vector<Leaf*> FindAll(std::set<zbIBrowserDataItemSimple*> const& items) const;
+    //! The leaves of these data items, each once, in the order of the leaves.
+    std::vector<Leaf*> FindAll(std::vector<zbIBrowserDataItemSimple*> const& items) const;
+
+    //! \name Order
+    //! The leaves stand in the order in which they came until they are given another one, and what
+    //! comes after that stands behind them.
+    //! \{
+    //! All are as Reorder left them, or there are none.
+    bool IsOrdered() const { return orderedEnd_ == slots_.Slots().size(); }
+    //! How many of the first leaves are as Reorder left them. O(leaves) after some have gone.
+    std::size_t OrderedCount() const;
+    //! Puts the leaves into this order. O(leaves).
+    //! Requires: `order` holds the leaves of this store and nothing else.
+    //! Failure: std::bad_alloc; the store is as before.
+    void Reorder(std::vector<zbIBrowserViewItem*> const& order);
+    //! From now on the leaves count as not ordered. They stay where they are.
+    void ForgetOrder();
+    //! Changes with each leaf that comes or goes and with each new or lost order.
+    std::size_t ChangeNumber() const { return changes_; }
+    //! \}
 
     //! A listed leaf was hidden or shown.
     void NoteHidden(bool hidden) { hidden ? ++hidden_ : --hidden_; }
@@ -83,7 +100,8 @@ public:
 private:
     using Slot = SlotVector<Leaf*>::Slot;
 
-    // The slots from first up to last hold leaves of the source or nothing.
+    // The slots from first up to last hold leaves of the source or nothing, and, if the source is
+    // mixed, some of other sources in between.
     struct Run {
         Slot first;
         Slot last;
@@ -91,12 +109,17 @@ private:
     struct Source {
         std::vector<Run> runs;
         std::size_t count = 0;
+        bool isMixed = false;
     };
+    // Leaves of other sources that a run may bridge: without bridges, an order in which sources
+    // alternate would cost a run for each leaf.
+    static constexpr Slot bridgedSlots = 8;
 
     std::uint32_t NumberOf(zbIBrowserDataSource const* source);
     void Clear();
     void Compact();
     void RebuildRuns();
+    std::vector<Source> SourcesInOrder(std::vector<zbIBrowserViewItem*> const& order) const;
     static void ExtendRuns(Source& source, Slot slot);
 
     SlotVector<Leaf*> slots_;
@@ -106,6 +129,8 @@ private:
     zbIBrowserDataSource const* lastSource_ = nullptr; // Of the last Append, with its number
     std::uint32_t lastNumber_ = 0;
     std::size_t hidden_ = 0;
+    Slot orderedEnd_ = 0; // The slots before it are as Reorder left them
+    std::size_t changes_ = 0;
 };
 
 } // namespace zbbrowser::detail

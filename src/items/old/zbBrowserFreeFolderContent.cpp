@@ -87,7 +87,7 @@ void zbBrowserFreeFolderContent::GetViewItemsFromDataSet(HierarchicalSet const&,
 void zbBrowserFreeFolderContent::GetViewItemsFromItem(zbIBrowserDataItemHierarchical*, Items&,
                                                       Items&) {
 }
-void zbBrowserFreeFolderContent::GetViewItems(SimpleSet const&, Items&, Items&) {
+void zbBrowserFreeFolderContent::GetViewItems(SimpleItems const&, Items&, Items&) {
 }
 void zbBrowserFreeFolderContent::GetViewItems(zbIBrowserDataItemSimple*, Items&, Items&) {
 }
@@ -102,7 +102,8 @@ bool zbBrowserFreeFolderContent::GetShowEmptyGroups() const {
 bool zbBrowserFreeFolderContent::HasVisibleItems() const {
     return false;
 }
-void zbBrowserFreeFolderContent::GetSortedItems(Items&) {
+bool zbBrowserFreeFolderContent::GetSortedItems(Items&, bool, bool) {
+    return IsAlive();
 }
 zbIBrowserViewItem* zbBrowserFreeFolderContent::FindViewItem(zbIBrowserViewItem const*) const {
     return nullptr;
@@ -151,9 +152,9 @@ void zbBrowserFreeFolderContent::MarkDead() {
     treeSettings_.clear();
 }
 
-std::size_t zbBrowserFreeFolderContent::CountViewItems() const {
+std::size_t zbBrowserFreeFolderContent::CountViewItems(bool recursive) const {
     Items items;
-    GetAllViewItems(items, false);
+    GetAllViewItems(items, recursive);
     return items.size();
 }
 

@@ -53,7 +53,7 @@ public:
     using Items = std::vector<zbIBrowserViewItem*>;
     using Simple = zbIBrowserDataSourceSimple;
     using Tree = zbIBrowserDataSourceHierarchical;
-    using SimpleSet = std::set<zbIBrowserDataItemSimple*>;
+    using SimpleItems = std::vector<zbIBrowserDataItemSimple*>;
     using HierarchicalSet = std::set<zbIBrowserDataItemHierarchical*>;
 
     explicit zbBrowserFreeFolderContent(zbBrowserFreeFolderContentHolder& holder);
@@ -82,15 +82,18 @@ public:
                                          Items& parents);
     virtual void GetViewItemsFromItem(zbIBrowserDataItemHierarchical* item, Items& found,
                                       Items& parents);
-    virtual void GetViewItems(SimpleSet const& items, Items& found, Items& parents);
+    //! An item may stand in `items` more than once.
+    virtual void GetViewItems(SimpleItems const& items, Items& found, Items& parents);
     virtual void GetViewItems(zbIBrowserDataItemSimple* item, Items& found, Items& parents);
     virtual void OnReferenceChanged(zbIBrowserDataItemHierarchical* item,
                                     zbIBrowserDataItemHierarchical* newParent);
     virtual void GetAllViewItems(Items& out, bool recursive) const;
     virtual bool GetShowEmptyGroups() const;
     virtual bool HasVisibleItems() const;
-    //! Appends the rows as they are to be shown; the child folders are not among them.
-    virtual void GetSortedItems(Items& out);
+    //! Appends the rows without the hidden ones, first to last or, unless `ascending`, last to
+    //! first; the child folders are not among them. `sorted`: by the sorted column of the view,
+    //! otherwise as they stand. False once this content has gone.
+    virtual bool GetSortedItems(Items& out, bool sorted, bool ascending);
     virtual zbIBrowserViewItem* FindViewItem(zbIBrowserViewItem const* item) const;
     virtual zbIBrowserViewItem* FindTreeItem(zbIBrowserViewItem const* item, bool deep) const;
     virtual zbIBrowserViewItem* FindGroup(zbIBrowserViewItem const* item, bool deep) const;
@@ -110,7 +113,7 @@ public:
     virtual void SetTreeExpanded(Tree* tree, bool expand, bool silent);
 
     //! Rows, without building a list of them.
-    virtual std::size_t CountViewItems() const;
+    virtual std::size_t CountViewItems(bool recursive) const;
     //! Builds the items one level below the top ones.
     virtual void BuildNextLevel(bool recursive, bool silent);
     //! The content is about to be parked: its items count as gone from now on.

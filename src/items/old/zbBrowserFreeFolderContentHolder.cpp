@@ -94,15 +94,11 @@ void zbBrowserFreeFolderContentHolder::AppendAllViewItems(Items& out, bool recur
         content->GetAllViewItems(out, recursive);
 }
 
-std::size_t zbBrowserFreeFolderContentHolder::CountViewItems() const {
+std::size_t zbBrowserFreeFolderContentHolder::CountViewItems(bool recursive) const {
     std::size_t count = 0;
     for (auto const* const content : Contents())
-        count += content->CountViewItems();
+        count += content->CountViewItems(recursive);
     return count;
-}
-
-void zbBrowserFreeFolderContentHolder::AppendSortedItems(Items& out) {
-    ForEach([&](zbBrowserFreeFolderContent& content) { content.GetSortedItems(out); });
 }
 
 bool zbBrowserFreeFolderContentHolder::HasVisibleItems() const {

@@ -66,9 +66,7 @@ public:
 
     //! Rows of all strategies in the fixed order.
     void AppendAllViewItems(Items& out, bool recursive) const;
-    std::size_t CountViewItems() const;
-    //! Rows as they are to be shown.
-    void AppendSortedItems(Items& out);
+    std::size_t CountViewItems(bool recursive) const;
     bool HasVisibleItems() const;
     //! The item of this folder for the data item of another view item.
     zbIBrowserViewItem* FindViewItem(zbIBrowserViewItem const* item) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "items/old/zbBrowserFreeFolderContentNoGrouping.h"
 
+#include "filtersort/zbBrowserSortHandler.h"
 #include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "items/old/zbBrowserViewItemFreeFolder.h"
 #include "view/LongOperation.h"
@@ -17,6 +18,21 @@ using zbbrowser::detail::DetachedLeaves;
 namespace {
 //! How many items ahead the index is asked to be fetched while a list is built.
 constexpr std::size_t prefetchDistance = 8;
+
+//! Sets a mark as long as it lives.
+class RaisedFlag {
+public:
+    explicit RaisedFlag(bool& flag)
+        : flag_(flag) {
+        flag_ = true;
+    }
+    RaisedFlag(RaisedFlag const&) = delete;
+    RaisedFlag& operator=(RaisedFlag const&) = delete;
+    ~RaisedFlag() { flag_ = false; }
+
+private:
+    bool& flag_;
+};
 } // namespace
 
 zbBrowserFreeFolderContentNoGrouping::~zbBrowserFreeFolderContentNoGrouping() {
@@ -25,6 +41,7 @@ zbBrowserFreeFolderContentNoGrouping::~zbBrowserFreeFolderContentNoGrouping() {
 
 void zbBrowserFreeFolderContentNoGrouping::MarkDead() {
     zbBrowserFreeFolderContent::MarkDead();
+    leaves_.ForEach([this](Leaf const& leaf) { Context().Forget(leaf); });
     leaves_.MarkAllGone();
 }
 
@@ -134,7 +151,7 @@ void zbBrowserFreeFolderContentNoGrouping::OnDataItemDeleted(zbIBrowserDataItemS
     DeleteLeaf(item, silent);
 }
 
-void zbBrowserFreeFolderContentNoGrouping::GetViewItems(SimpleSet const& items, Items& found,
+void zbBrowserFreeFolderContentNoGrouping::GetViewItems(SimpleItems const& items, Items& found,
                                                         Items& parents) {
     if (!leaves_.IsIndexInStep() || leaves_.IsEmpty())
         return;
@@ -157,8 +174,29 @@ void zbBrowserFreeFolderContentNoGrouping::GetAllViewItems(Items& out, bool) con
     leaves_.AppendAllTo(out);
 }
 
-void zbBrowserFreeFolderContentNoGrouping::GetSortedItems(Items& out) {
-    leaves_.AppendVisibleTo(out, Context().Handlers().OrderOfLeaves().ascending);
+bool zbBrowserFreeFolderContentNoGrouping::GetSortedItems(Items& out, bool sorted, bool ascending) {
+    if (sorted && !SortRows())
+        return false;
+    leaves_.AppendVisibleTo(out, ascending);
+    return true;
+}
+
+// The host compares while a copy is sorted. A comparison that reads this list finds it as it was.
+bool zbBrowserFreeFolderContentNoGrouping::SortRows() {
+    auto* const handler = Context().OldView().GetSortHandlerPtr();
+    if (leaves_.IsOrdered() || isSorting_ || handler == nullptr)
+        return IsAlive();
+    RaisedFlag const sorting(isSorting_);
+    auto const changesBefore = leaves_.ChangeNumber();
+    auto const ordered = leaves_.OrderedCount();
+    auto basis = sortBasis_;
+    Items rows;
+    leaves_.AppendAllTo(rows);
+    if (!handler->SortDataItems(rows, ordered, basis) || leaves_.ChangeNumber() != changesBefore)
+        return IsAlive();
+    leaves_.Reorder(rows);
+    sortBasis_ = std::move(basis);
+    return true;
 }
 
 zbIBrowserViewItem*
@@ -195,11 +233,9 @@ bool zbBrowserFreeFolderContentNoGrouping::ApplyFilter() {
 }
 
 void zbBrowserFreeFolderContentNoGrouping::SelectAll(bool select) {
-    if (!Context().Handlers().SelectsItems())
-        return;
     for (auto* const leaf : leaves_.Snapshot()) {
         if (IsStillListed(*leaf))
-            Context().Handlers().SelectViewItem(*leaf, select, false);
+            Context().SelectViewItem(*leaf, select, false);
     }
 }
 
@@ -223,7 +259,6 @@ zbBrowserFreeFolderContentNoGrouping::CreateLeaf(zbIBrowserDataItemSimple* item,
             return known;
     }
     auto& leaf = MakeLeaf(item, source, hidden);
-    SetUnsorted();
     if (!silent)
         Context().Raise(&zbBrowserSignalManager::ViewItemCreated, &leaf);
     return &leaf;

@@ -3,11 +3,13 @@
 //! Lists whose rows stand directly in the folder.
 #pragma once
 
+#include "filtersort/SortBasis.h"
 #include "items/old/LeafStore.h"
 #include "items/old/zbBrowserFreeFolderContent.h"
 
 //! One leaf for each data item of each list, directly in the free folder: the strategy for lists
-//! while the folder does not group its leaves. Leaves stand in the order of their creation.
+//! while the folder does not group its leaves. Leaves stand in the order of their creation until
+//! they are first sorted; from then on in the order of the last sort, new ones behind the others.
 //!
 //! A leaf lives until its data item has left its source or its list has left the folder. Over a
 //! rebuild the survivors keep their object and with it their place, selection and hidden mark; a
@@ -46,18 +48,26 @@ public:
 
     void OnDataItemDeleted(zbIBrowserDataItemSimple* item, bool silent) override;
     //! Both fill `found` and `parents` in pairs: the leaf, and the folder.
-    void GetViewItems(SimpleSet const& items, Items& found, Items& parents) override;
+    void GetViewItems(SimpleItems const& items, Items& found, Items& parents) override;
     void GetViewItems(zbIBrowserDataItemSimple* item, Items& found, Items& parents) override;
     void GetAllViewItems(Items& out, bool recursive) const override;
-    std::size_t CountViewItems() const override { return leaves_.Count(); }
+    std::size_t CountViewItems(bool) const override { return leaves_.Count(); }
     bool HasVisibleItems() const override { return leaves_.HasVisible(); }
-    void GetSortedItems(Items& out) override;
+    bool GetSortedItems(Items& out, bool sorted, bool ascending) override;
     zbIBrowserViewItem* FindViewItem(zbIBrowserViewItem const* item) const override;
     void DeleteAll() override;
     void OnViewItemRemoved(zbIBrowserViewItem* item) override;
     bool ApplyFilter() override;
+    //! All rows are sorted when the list is next read in sorted form. A new row does not take this:
+    //! it is sorted into the others.
+    void SetUnsorted() override { leaves_.ForgetOrder(); }
     void SelectAll(bool select) override;
     void MarkDead() override;
+
+    //! Sorts the rows by the sorted column unless they are sorted. They are left as they are, and
+    //! unsorted, if a comparison throws, and if one changes the list or the order meanwhile.
+    //! False once this content has gone. Requires: an open CallScope.
+    bool SortRows();
 
     zbbrowser::detail::LeafStore& Leaves() { return leaves_; }
 
@@ -81,4 +91,6 @@ private:
     }
 
     zbbrowser::detail::LeafStore leaves_;
+    zbbrowser::detail::SortBasis sortBasis_; // Of the rows that are in order
+    bool isSorting_ = false;
 };

@@ -2,9 +2,12 @@
 // The folder itself: its place among the folders, its marks and what is listed of it.
 #include "items/old/zbBrowserViewItemFreeFolder.h"
 
+#include "filtersort/zbBrowserSortHandler.h"
 #include "items/old/FolderWalk.h"
 #include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "view/OldViewContext.h"
+
+#include <zbBrowserView/zbBrowserView.h>
 
 #include <algorithm>
 #include <utility>
@@ -39,7 +42,7 @@ zbBrowserView* zbBrowserViewItemFreeFolder::GetViewImpl() const {
 }
 
 std::uint64_t zbBrowserViewItemFreeFolder::GetChildrenCount() const {
-    return holder_ == nullptr ? 0 : holder_->CountViewItems();
+    return holder_ == nullptr ? 0 : holder_->CountViewItems(false);
 }
 
 void zbBrowserViewItemFreeFolder::Show() {
@@ -61,6 +64,7 @@ void zbBrowserViewItemFreeFolder::CreateChildFolder(zbString const& name) {
     auto owned = std::make_unique<zbBrowserViewItemFreeFolder>(context_, this, name);
     auto& child = *owned;
     child.slot_ = children_.Append(std::move(owned));
+    childrenSorted_ = false;
 
     context_.Raise(&zbBrowserSignalManager::ViewItemCreated, &child);
     if (IsAlive())
@@ -84,7 +88,6 @@ void zbBrowserViewItemFreeFolder::DeleteChildFolder(zbBrowserViewItemFreeFolder&
 
     context_.Raise(&zbBrowserSignalManager::ViewItemDeleted, &folder);
     if (folder.IsAlive()) {
-        context_.Handlers().RemoveFolderStyle(folder);
         RetireSubtree(folder);
         if (children_.WantsCompaction())
             children_.Compact([](zbBrowserViewItemFreeFolder& f, auto, auto to) { f.slot_ = to; });
@@ -111,6 +114,7 @@ void zbBrowserViewItemFreeFolder::RetireSubtree(zbBrowserViewItemFreeFolder& top
         auto* const owner = folder->owner_;
         auto const isTop = folder == &top;
         auto owned = owner->children_.Take(folder->slot_);
+        owner->childrenSorted_ = false;
         folder->Die();
         folder->context_.Lifetime().Retire(std::move(owned));
         if (isTop)
@@ -149,16 +153,35 @@ zbBrowserViewItemFreeFolder::FindChildFreeFolder(zbString const& name) const {
 
 // Creation order always comes first to last, whatever the direction.
 template <class Visit>
-void zbBrowserViewItemFreeFolder::ForEachChild(bool sorted, bool ascending, Visit visit) const {
-    auto const visitLive = [&](FolderPtr const& child) {
-        if (child != nullptr)
-            visit(*child);
-    };
-    auto const& slots = children_.Slots();
-    if (keepChildrenInOrder_ || !sorted || ascending)
-        std::for_each(slots.begin(), slots.end(), visitLive);
+void zbBrowserViewItemFreeFolder::ForEachChild(bool sorted, bool ascending, Visit visit) {
+    if (keepChildrenInOrder_ || !sorted) {
+        for (auto const& child : children_.Slots()) {
+            if (child != nullptr)
+                visit(*child);
+        }
+        return;
+    }
+    SortChildren();
+    auto const visitFolder = [&](zbIBrowserViewItemFreeFolder* child) { visit(*child); };
+    if (ascending)
+        std::for_each(sortedChildren_.begin(), sortedChildren_.end(), visitFolder);
     else
-        std::for_each(slots.rbegin(), slots.rend(), visitLive);
+        std::for_each(sortedChildren_.rbegin(), sortedChildren_.rend(), visitFolder);
+}
+
+// A copy is sorted, since the order of creation is still asked for.
+void zbBrowserViewItemFreeFolder::SortChildren() {
+    if (childrenSorted_)
+        return;
+    sortedChildren_.clear();
+    sortedChildren_.reserve(children_.Count());
+    for (auto const& child : children_.Slots()) {
+        if (child != nullptr)
+            sortedChildren_.push_back(child.get());
+    }
+    if (auto const* const handler = context_.SortHandler())
+        handler->SortFreeFolders(sortedChildren_);
+    childrenSorted_ = true;
 }
 
 bool zbBrowserViewItemFreeFolder::GetChildFreeFolders(
@@ -166,24 +189,22 @@ bool zbBrowserViewItemFreeFolder::GetChildFreeFolders(
     out.clear();
     out.reserve(children_.Count());
     ForEachChild(sorted, ascending,
-                 [&](zbBrowserViewItemFreeFolder& child) { out.push_back(&child); });
+                 [&](zbIBrowserViewItemFreeFolder& child) { out.push_back(&child); });
     return true;
 }
 
 void zbBrowserViewItemFreeFolder::GetChildFolderItems(std::vector<zbIBrowserViewItem*>& out,
-                                                      bool sorted, bool ascending) const {
-    ForEachChild(sorted, ascending, [&](zbBrowserViewItemFreeFolder& child) {
+                                                      bool sorted, bool ascending) {
+    ForEachChild(sorted, ascending, [&](zbIBrowserViewItemFreeFolder& child) {
         if (!child.IsHidden())
             out.push_back(&child);
     });
 }
 
-void zbBrowserViewItemFreeFolder::GetChildren(std::vector<zbIBrowserViewItem*>& out) const {
+void zbBrowserViewItemFreeFolder::GetChildren(std::vector<zbIBrowserViewItem*>& out) {
     out.clear();
-    auto const order = context_.Handlers().OrderOfFolders();
-    GetChildFolderItems(out, order.sorted, order.ascending);
-    if (holder_ != nullptr)
-        holder_->AppendSortedItems(out);
+    if (auto* const handler = context_.OldView().GetSortHandlerPtr())
+        handler->GetChildren(*this, out);
 }
 
 // Marks

@@ -135,10 +135,9 @@ public:
     //! Removes one; see zbBrowserView::DeleteFreeFolder.
     void DeleteChildFolder(zbBrowserViewItemFreeFolder& folder, bool deleteContent);
     //! Child folders as they are to be shown: without the hidden ones.
-    void GetChildFolderItems(std::vector<zbIBrowserViewItem*>& out, bool sorted,
-                             bool ascending) const;
-    //! Child folders, then rows, as they are to be shown.
-    void GetChildren(std::vector<zbIBrowserViewItem*>& out) const;
+    void GetChildFolderItems(std::vector<zbIBrowserViewItem*>& out, bool sorted, bool ascending);
+    //! Child folders and rows as they are to be shown, in the order of the sort handler.
+    void GetChildren(std::vector<zbIBrowserViewItem*>& out);
     void SetKeepChildrenInOrder(bool keep) { keepChildrenInOrder_ = keep; }
     void SetHidden(bool hidden) { hidden_ = hidden; }
     //! \}
@@ -156,12 +155,18 @@ public:
                           bool show);
     //! The rows of this folder, with `recursive` of those below it too.
     bool GetAllViewItems(std::vector<zbIBrowserViewItem*>& out, bool recursive) const;
+    //! How many that are with `recursive`, without making a list of them. O(folders below).
+    std::size_t CountAllViewItems() const;
     void ApplyFilter();
     void SelectChildren(bool select);
     //! A holder, and child folders or visible rows.
     bool HasChildren() const;
     //! No child folders, lists or trees. A list whose items are all hidden counts.
     bool IsContentEmpty() const;
+    bool IconShowsData() const { return iconShowsData_; }
+    bool IsIconRecursive() const { return iconRecursive_; }
+    bool CaptionShowsCount() const { return captionShowsCount_; }
+    bool IsCaptionRecursive() const { return captionRecursive_; }
     bool IconShowsDataOrRecursive() const { return iconShowsData_ || iconRecursive_; }
     //! \}
 
@@ -196,7 +201,8 @@ private:
     void Die();
     //! The child folders in the order that is asked for.
     template <class Visit>
-    void ForEachChild(bool sorted, bool ascending, Visit visit) const;
+    void ForEachChild(bool sorted, bool ascending, Visit visit);
+    void SortChildren();
     void SetListExpanded(bool expand, zbIBrowserDataSourceSimple* list, bool recursive);
     //! Moves all lists and trees from one list strategy to the other.
     void MoveContent(bool grouped);
@@ -210,9 +216,11 @@ private:
     zbBrowserViewItemFreeFolder* owner_;   // Not owned
     std::unique_ptr<zbBrowserFreeFolderContentHolder> holder_;
     zbbrowser::detail::SlotVector<FolderPtr> children_;
-    zbbrowser::detail::SlotVector<FolderPtr>::Slot slot_ = 0; // Place in the owner's children
-    void* attachedObject_ = nullptr;                          // Not owned; never followed
+    zbbrowser::detail::SlotVector<FolderPtr>::Slot slot_ = 0;   // Place in the owner's children
+    std::vector<zbIBrowserViewItemFreeFolder*> sortedChildren_; // Valid if childrenSorted_
+    void* attachedObject_ = nullptr;                            // Not owned; never followed
     bool alive_ = true;
+    bool childrenSorted_ = false;
     bool keepChildrenInOrder_ = true;
     bool expanded_;
     bool groupLeafs_ = false;

@@ -297,6 +297,16 @@ bool zbBrowserViewItemFreeFolder::GetAllViewItems(std::vector<zbIBrowserViewItem
     return !out.empty();
 }
 
+std::size_t zbBrowserViewItemFreeFolder::CountAllViewItems() const {
+    std::size_t count = 0;
+    WalkFolders(*this, [&](zbBrowserViewItemFreeFolder const& folder) {
+        if (folder.holder_ != nullptr)
+            count += folder.holder_->CountViewItems(true);
+        return true;
+    });
+    return count;
+}
+
 void zbBrowserViewItemFreeFolder::ApplyFilter() {
     WalkFolders(*this, [](zbBrowserViewItemFreeFolder& folder) {
         folder.RequireHolder().ForEach([](zbBrowserFreeFolderContent& c) { c.ApplyFilter(); });
@@ -307,7 +317,7 @@ void zbBrowserViewItemFreeFolder::ApplyFilter() {
 void zbBrowserViewItemFreeFolder::SelectChildren(bool select) {
     WalkFolders(*this, [&](zbBrowserViewItemFreeFolder& folder) {
         if (&folder != this)
-            context_.Handlers().SelectViewItem(folder, select, false);
+            context_.SelectViewItem(folder, select, false);
         if (folder.holder_ != nullptr)
             folder.holder_->ForEach([&](zbBrowserFreeFolderContent& c) { c.SelectAll(select); });
         return true;

@@ -27,7 +27,7 @@ void zbBrowserViewItemFreeFolder::Collapse(bool deselectSelf, bool deselectChild
     CallScope const scope(context_.Lifetime());
     expanded_ = false;
     if (deselectSelf)
-        context_.Handlers().DeselectViewItem(*this, false);
+        context_.SelectViewItem(*this, false, false);
     if (deselectChildren)
         SelectChildren(false);
     if (!silent && IsAlive())

@@ -21,6 +21,7 @@
 namespace zbsqlite {
 
 class DataCtrl;
+class RowName;
 
 //! One table or view: a flat data source whose items are rows and whose data properties are
 //! columns. Its rows are loaded when they are first asked for, in one pass, and stay as they are
@@ -60,6 +61,17 @@ public:
 
     //! The columns that make a row's name; empty if none does, but the rowid or the number.
     std::span<std::size_t const> NameColumns() const { return nameColumns_; }
+
+    //! Makes another column the name. It counts from the next question on: what has been sorted by
+    //! name must be sorted anew. Requires: a property of this source.
+    void NameRowsBy(Property const& column);
+
+    //! A data property whose text is the row's name. A view shows it as soon as its
+    //! "default_name_prop" is connected to it. Lives as long as the source.
+    zbIBrowserDataProperty& NameProperty() const;
+
+    //! The data property as a column of this source; null if it is none. It is not followed.
+    Property const* AsColumn(zbIBrowserDataProperty const* property) const;
 
     //! 0-based place in `Rows()`. Requires: a row of this source.
     std::size_t IndexOf(Row const& row) const;
@@ -139,6 +151,8 @@ private:
     Value NamePart(Row const& row, std::size_t part) const;
     Row const* AnyRow(zbIBrowserDataItem const* item) const;
     Property const* AnyProperty(zbIBrowserDataProperty const* property) const;
+    std::optional<std::size_t> NameColumn() const;
+    int CompareByColumn(Row const& a, Row const& b, std::size_t column);
     static bool CompareValues(Row const* a, Property const* propertyOfA, Row const* b,
                               Property const* propertyOfB, int& cmp);
 
@@ -148,6 +162,7 @@ private:
     std::size_t index_;
     std::vector<Property> properties_;
     std::vector<std::size_t> nameColumns_;
+    std::unique_ptr<RowName> rowName_;       // Never null.
     std::string_view rowidName_;             // Literal; empty if the rowid is not needed.
     Property const* sortProperty_ = nullptr; // Not owned, may be null.
     std::unique_ptr<RowStore> store_;        // Null until loaded.

@@ -50,4 +50,29 @@ std::optional<FolderOption> ReadFolderOption(std::string const& text) {
     return option;
 }
 
+std::optional<ColumnsOption> ReadColumnsOption(std::string const& text) {
+    ColumnsOption option;
+    if (text == "all") {
+        option.all = true;
+        return option;
+    }
+    std::string_view rest = text;
+    if (!ReadNames(rest, ',', '\0', option.names) || HasEmptyName(option.names))
+        return std::nullopt;
+    return option;
+}
+
+std::optional<SortOption> ReadSortOption(std::string const& text) {
+    constexpr std::string_view ascending = ":asc";
+    constexpr std::string_view descending = ":desc";
+    SortOption option{text, !text.ends_with(descending)};
+    if (!option.ascending)
+        option.column.resize(text.size() - descending.size());
+    else if (text.ends_with(ascending))
+        option.column.resize(text.size() - ascending.size());
+    if (option.column.empty())
+        return std::nullopt;
+    return option;
+}
+
 } // namespace zbbrowse

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+// Sorting the rows of one list. What the data side takes to compare is part of the times;
+// `compared` says how often it was asked.
+#include "ColumnHost.h"
+#include "CountingNew.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+
+using zbbench::ColumnHost;
+
+namespace {
+
+void Sizes(benchmark::internal::Benchmark* bench) {
+    bench->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+}
+
+constexpr int changes = 10'000;
+
+std::size_t Rows(benchmark::State const& state) {
+    return static_cast<std::size_t>(state.range(0));
+}
+
+double PerRow(benchmark::State const& state, std::size_t amount) {
+    return static_cast<double>(amount) / static_cast<double>(state.range(0));
+}
+
+//! Comparisons of one iteration, and how many they are for each n log2 n.
+void ReportComparisons(benchmark::State& state, std::size_t comparisons) {
+    auto const n = static_cast<double>(state.range(0));
+    auto const each = static_cast<double>(comparisons) / static_cast<double>(state.iterations());
+    state.counters["compared"] = each;
+    state.counters["of n log2 n"] = each / (n * std::log2(n));
+}
+
+//! The rows stand in the order of their creation, which is that of no column.
+void FirstSort(benchmark::State& state, zbIBrowserViewColumn& (*columnOf)(ColumnHost&)) {
+    ColumnHost host(Rows(state));
+    host.Read();
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        host.Disconnect();
+        host.Connect();
+        auto const before = zbbench::BytesInUse();
+        state.ResumeTiming();
+        host.Sort(columnOf(host));
+        bytes = zbbench::BytesInUse() - before;
+    }
+    ReportComparisons(state, host.source.comparisons);
+    state.counters["more bytes/row"] = PerRow(state, bytes);
+}
+
+void FirstSortByName(benchmark::State& state) {
+    FirstSort(
+        state, [](ColumnHost & host) -> auto& { return host.name; });
+}
+BENCHMARK(FirstSortByName)->Apply(Sizes);
+
+void FirstSortByNumber(benchmark::State& state) {
+    FirstSort(
+        state, [](ColumnHost & host) -> auto& { return host.number; });
+}
+BENCHMARK(FirstSortByNumber)->Apply(Sizes);
+
+//! The direction changes, and all rows are read again.
+void Reverse(benchmark::State& state) {
+    ColumnHost host(Rows(state));
+    host.Sort(host.name);
+    host.source.comparisons = 0;
+    bool ascending = true;
+    for (auto _ : state) {
+        ascending = !ascending;
+        host.view.SetAscendingOrder(&host.name, ascending);
+        host.Read();
+    }
+    ReportComparisons(state, host.source.comparisons);
+}
+BENCHMARK(Reverse)->Apply(Sizes);
+
+void ReadAllSorted(benchmark::State& state) {
+    ColumnHost host(Rows(state));
+    host.Sort(host.name);
+    for (auto _ : state) {
+        host.Read();
+        benchmark::DoNotOptimize(host.rows.data());
+    }
+    if (host.rows.size() != Rows(state))
+        state.SkipWithError("rows are missing");
+}
+BENCHMARK(ReadAllSorted)->Apply(Sizes);
+
+//! 10 thousand items have come since the rows were sorted.
+void SortAgain(benchmark::State& state) {
+    std::size_t comparisons = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto host = std::make_unique<ColumnHost>(Rows(state));
+        host->Sort(host->name);
+        for (int i = 0; i < changes; ++i)
+            host->controller->OnDataItemCreated(host->source.AddItem(), true);
+        host->source.comparisons = 0;
+        state.ResumeTiming();
+        host->Read();
+        state.PauseTiming();
+        comparisons += host->source.comparisons;
+        host.reset();
+        state.ResumeTiming();
+    }
+    ReportComparisons(state, comparisons);
+}
+BENCHMARK(SortAgain)->Apply(Sizes);
+
+} // namespace

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+//! \file
+//! Sorting rows of data by the comparisons of their host.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+class zbIBrowserDataCtrl;
+class zbIBrowserDataItemSimple;
+class zbIBrowserDataProperty;
+class zbIBrowserDataSourceSimple;
+class zbIBrowserViewItem;
+class zbIBrowserViewProperty;
+
+namespace zbbrowser::detail {
+
+class ViewContext;
+
+//! The orders in which lists are sorted. RowSort.cpp says of which keys each is made.
+enum class RowOrder : std::uint8_t {
+    Default,
+    Custom,
+    Column,
+    CustomTwoKeys,
+    NameAndId,
+    Prepared //!< For both kinds of lists whose source was given its sort property before.
+};
+
+//! One sort of one list. Lives as long as the sort takes.
+//!
+//! What can be asked once is asked once: for each row its data item and source, for each source its
+//! data control and the data property that it sorts by, for each pair of sources their order. The
+//! host's comparisons are asked for pairs of rows.
+//!
+//! A comparison should not, but may call back into the view. As soon as anything of the view goes
+//! meanwhile, the host is asked no more, since its data may have gone as well, and the sort is
+//! given up. Requires: an open CallScope, by which that is noticed.
+class RowSort {
+public:
+    using Items = std::vector<zbIBrowserViewItem*>;
+
+    //! \param property of the sorted column; null: none, and the key by data property is left out
+    RowSort(ViewContext& context, zbIBrowserViewProperty* property);
+
+    //! Sorts items; those for which all keys tie keep their order. The first `sorted` of them are
+    //! in this order already and are not compared with each other.
+    //! An item that is null or has no data ties with every other one.
+    //! \return false if it was given up; `items` is then as before, as it is after an exception
+    bool Run(Items& items, std::size_t sorted, RowOrder order);
+
+    // What the keys need.
+
+    struct Row {
+        zbIBrowserDataItemSimple* data; // Null: none
+        std::uint32_t source;           // Number of its source
+        std::uint32_t place;            // In the list as it was
+    };
+    struct Source {
+        zbIBrowserDataSourceSimple* source; // Null: none
+        zbIBrowserDataCtrl* control;
+        zbIBrowserDataProperty* property;
+    };
+
+    Source const& SourceOf(Row const& row) const { return sources_[row.source]; }
+    //! Something of the view has gone.
+    bool IsDisturbed() const;
+
+    enum class Verdict : std::uint8_t { Undecided, Before, NotBefore };
+    //! What the data control says of the sources of two rows.
+    Verdict CompareSources(Row const& a, Row const& b);
+
+private:
+    static constexpr std::uint32_t rememberedSources = 64;
+
+    Items SortedBy(RowOrder order, Items const& items, std::size_t sorted);
+    template <class Order>
+    Items Sorted(Items const& items, std::size_t sorted, Order order);
+    Row RowOf(zbIBrowserViewItem const* item, std::size_t place);
+    std::vector<Row> RowsFrom(Items const& items, std::size_t first);
+    std::uint32_t NumberOf(zbIBrowserDataSourceSimple* source);
+    Verdict AskControl(Source const& a, Source const& b) const;
+
+    ViewContext& context_;
+    std::size_t const retiredBefore_;
+    zbIBrowserViewProperty* const property_; // Not owned; null: none
+    std::vector<Source> sources_;
+    std::unordered_map<zbIBrowserDataSourceSimple*, std::uint32_t> sourceNumbers_;
+    zbIBrowserDataSourceSimple* lastSource_ = nullptr;
+    std::uint32_t lastNumber_ = 0;
+    struct Answer {
+        bool known = false;
+        Verdict verdict = Verdict::Undecided;
+    };
+    std::vector<Answer> sourceOrder_; // Of the first sources, each with each
+};
+
+} // namespace zbbrowser::detail

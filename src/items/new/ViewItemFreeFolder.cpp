@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "items/new/ViewItemFreeFolder.h"
+
+#include "filtersort/SortHandlerBase.h"
+#include "view/NewViewContext.h"
+
+#include <zbBrowserView/View.h>
+
+#include <algorithm>
+
+namespace zbbrowser {
+
+using detail::CallScope;
+
+ViewItemFreeFolder::ViewItemFreeFolder(detail::NewViewContext& context, ViewItemFreeFolder* parent,
+                                       zbString name, bool expanded)
+    : context_(context)
+    , name_(std::move(name))
+    , parent_(parent)
+    , expanded_(expanded)
+    , showWhenEmpty_(parent == nullptr || parent->GetShowWhenEmpty()) {
+    context_.RegisterFolder(*this);
+}
+
+// Takes the folders below apart level by level, so that none is destroyed with folders in it.
+ViewItemFreeFolder::~ViewItemFreeFolder() {
+    auto below = std::move(children_);
+    while (!below.empty()) {
+        auto const folder = std::move(below.back());
+        below.pop_back();
+        std::move(folder->children_.begin(), folder->children_.end(), std::back_inserter(below));
+        folder->children_.clear();
+    }
+    context_.UnregisterFolder(*this);
+}
+
+zbIBrowserView* ViewItemFreeFolder::GetView() const {
+    return &context_.View();
+}
+
+void ViewItemFreeFolder::Show() {
+    CallScope const scope(context_.Lifetime());
+    hidden_ = false;
+    context_.Raise(&zbBrowserSignalManager::ViewItemShown, this);
+}
+
+bool ViewItemFreeFolder::GetTreeParentChildRecords(std::vector<TreeParentChildRecord>&) const {
+    return false;
+}
+
+bool ViewItemFreeFolder::GetTreeTopLevelRecords(std::vector<TreeTopLevelRecord>&) const {
+    return false;
+}
+
+bool ViewItemFreeFolder::GetChildFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& out,
+                                             bool sorted, bool ascending) {
+    out.clear();
+    out.reserve(children_.size());
+    if (!sorted || keepChildrenInOrder_) {
+        for (auto const& child : children_)
+            out.push_back(child.get());
+        return true;
+    }
+    SortChildren();
+    out = sortedChildren_;
+    if (!ascending)
+        std::reverse(out.begin(), out.end());
+    return true;
+}
+
+void ViewItemFreeFolder::SortChildren() {
+    if (childrenSorted_)
+        return;
+    sortedChildren_.clear();
+    for (auto const& child : children_)
+        sortedChildren_.push_back(child.get());
+    if (auto* const handler = context_.SortHandler())
+        handler->SortFreeFolders(sortedChildren_);
+    childrenSorted_ = true;
+}
+
+zbIBrowserViewItemFreeFolder* ViewItemFreeFolder::FindChildFreeFolder(zbString const& name) const {
+    auto const found = std::find_if(children_.begin(), children_.end(), [&](auto const& child) {
+        return StrICmp(child->GetName(), name.c_str()) == 0;
+    });
+    return found == children_.end() ? nullptr : found->get();
+}
+
+void ViewItemFreeFolder::CreateChild(zbString const& name) {
+    if (FindChildFreeFolder(name) != nullptr)
+        throw "Child Free Folder with supplied name already exists in parent";
+    auto& child =
+        *children_.emplace_back(std::make_unique<ViewItemFreeFolder>(context_, this, name));
+    childrenSorted_ = false;
+    context_.Raise(&zbBrowserSignalManager::ViewItemCreated, &child);
+    context_.Raise(&zbBrowserSignalManager::FreeFolderCreated, this);
+    RaiseChanged();
+}
+
+void ViewItemFreeFolder::SetIconShowsData(bool show, bool recursive) {
+    CallScope const scope(context_.Lifetime());
+    iconShowsData_ = show;
+    iconRecursive_ = recursive;
+    RaiseChanged();
+}
+
+void ViewItemFreeFolder::SetCaptionShowsCount(bool show, bool recursive) {
+    CallScope const scope(context_.Lifetime());
+    captionShowsCount_ = show;
+    captionRecursive_ = recursive;
+    RaiseChanged();
+}
+
+// A folder signals after the folders below it, like a walk that writes each folder when it enters
+// it and signals when it leaves. Slots may add folders, which are then not part of the walk.
+void ViewItemFreeFolder::SetShowWhenEmpty(bool show, bool recursive) {
+    CallScope const scope(context_.Lifetime());
+    auto const folders = recursive ? Below() : std::vector<ViewItemFreeFolder*>{this};
+    for (auto* const folder : folders)
+        folder->showWhenEmpty_ = show;
+    for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder)
+        (*folder)->RaiseChanged();
+}
+
+void ViewItemFreeFolder::SetStyle(bool style) {
+    for (auto* const folder : Below())
+        folder->style_ = style;
+}
+
+// The last child comes first, so that read backwards each folder stands behind all below it and
+// siblings stand in their order.
+std::vector<ViewItemFreeFolder*> ViewItemFreeFolder::Below() {
+    std::vector<ViewItemFreeFolder*> found;
+    std::vector<ViewItemFreeFolder*> ahead{this};
+    while (!ahead.empty()) {
+        auto* const folder = ahead.back();
+        ahead.pop_back();
+        found.push_back(folder);
+        for (auto const& child : folder->children_)
+            ahead.push_back(child.get());
+    }
+    return found;
+}
+
+void ViewItemFreeFolder::RaiseChanged() {
+    context_.Raise(&zbBrowserSignalManager::ViewItemChanged, this);
+}
+
+} // namespace zbbrowser

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "view/NewViewContext.h"
+
+#include "items/new/ViewItemVirtualRoot.h"
+
+#include <zbBrowserView/View.h>
+
+namespace zbbrowser::detail {
+
+NewViewContext::NewViewContext(zbbrowser::View& view, zbBrowserViewCtrl const* ctrl)
+    : ViewContext(view, ctrl, Generation::New)
+    , newView_(view) {
+}
+
+NewViewContext::~NewViewContext() = default;
+
+void NewViewContext::SetRoot(std::unique_ptr<ViewItemVirtualRoot> root) {
+    root_ = std::move(root);
+}
+
+ViewItemFreeFolder* NewViewContext::FindFolder(zbIBrowserViewItem const* item) const {
+    auto const found = folders_.find(item);
+    return found == folders_.end() ? nullptr : found->second;
+}
+
+void NewViewContext::RegisterFolder(ViewItemFreeFolder& folder) {
+    folders_.emplace(&folder, &folder);
+}
+
+void NewViewContext::UnregisterFolder(ViewItemFreeFolder const& folder) {
+    folders_.erase(&folder);
+    OnFolderGone(folder);
+}
+
+} // namespace zbbrowser::detail
