@@ -19,4 +19,15 @@ bool Connect(zbIBrowserView& view, Source& source) {
                             : view.DataSourceConnect(&source);
 }
 
+void ConnectWithNames(zbIBrowserView& view, Source& source) {
+    Connect(view, source);
+    auto* const name = view.FindViewProperty(zbBrowserView::DEFAULT_NAME_PROP);
+    Connect(view, name, source, &source.NameProperty());
+}
+
+bool Disconnect(zbIBrowserView& view, Source& source) {
+    return view.IsNewView() ? view.Connect(static_cast<zbIBrowserDataSource*>(&source), false)
+                            : view.DataSourceDisconnect(source.GetName());
+}
+
 } // namespace zbsqlite::detail

@@ -20,4 +20,10 @@ bool Connect(zbIBrowserView& view, zbIBrowserViewProperty* property, Source& sou
 //! Makes a source known to a view.
 bool Connect(zbIBrowserView& view, Source& source);
 
+//! Makes a source known to a view, and the names of its rows to the view's name property.
+void ConnectWithNames(zbIBrowserView& view, Source& source);
+
+//! Takes a source, and all that the view shows of it, out of a view.
+bool Disconnect(zbIBrowserView& view, Source& source);
+
 } // namespace zbsqlite::detail

@@ -10,22 +10,28 @@ namespace zbsqlite {
 
 DataCtrl::DataCtrl(Database database)
     : database_(std::move(database))
-    , name_(std::filesystem::path(database_.File()).filename().string())
-    , tables_(ReadSchema(database_)) {
-    MakeSources();
+    , name_(std::filesystem::path(database_.File()).filename().string()) {
+    MakeSources(ReadSchema(database_));
     MakeReferences();
 }
 
 DataCtrl::~DataCtrl() = default;
 
-void DataCtrl::MakeSources() {
-    std::vector<std::string> names = detail::UniqueNames(tables_);
-    sources_.reserve(tables_.size());
-    for (std::size_t i = 0; i < tables_.size(); ++i) {
-        std::string folded = detail::FoldName(names[i]);
-        sources_.push_back(std::make_unique<Source>(*this, tables_[i], std::move(names[i]), i));
-        byName_.emplace(std::move(folded), sources_.back().get());
-    }
+void DataCtrl::MakeSources(std::vector<Table> tables) {
+    std::vector<std::string> names = detail::UniqueNames(tables);
+    sources_.reserve(tables.size());
+    for (std::size_t i = 0; i < tables.size(); ++i)
+        AddSource(std::move(tables[i]), std::move(names[i]));
+}
+
+Source& DataCtrl::AddSource(Table table, std::string name) {
+    sources_.push_back(
+        std::make_unique<Source>(*this, std::move(table), std::move(name), sourcesMade_++));
+    Source& source = *sources_.back();
+    byName_.emplace(detail::FoldName(source.GetName()), &source);
+    if (keepsKeys_)
+        source.KeepKeys();
+    return source;
 }
 
 void DataCtrl::MakeReferences() {
@@ -34,6 +40,7 @@ void DataCtrl::MakeReferences() {
         // No name holds a zero byte.
         return detail::FoldName(table.schema) + '\0' + detail::FoldName(name);
     };
+    references_.clear();
     for (auto const& source : sources_)
         byTable.emplace(key(source->Declaration(), source->Declaration().name), source.get());
     for (auto const& child : sources_) {
@@ -79,12 +86,20 @@ bool DataCtrl::CompareDataSources(zbIBrowserDataSource* a, zbIBrowserDataSource*
     return true;
 }
 
-void DataCtrl::GetDirtyItems(std::set<zbIBrowserDataSource*>& /*sources*/,
-                             std::set<zbIBrowserDataItem*>& /*out*/) {
+void DataCtrl::GetDirtyItems(std::set<zbIBrowserDataSource*>& sources,
+                             std::set<zbIBrowserDataItem*>& out) {
+    for (zbIBrowserDataSource* const source : sources) {
+        if (Source* const own = AsOwn(source))
+            own->AddDirtyRows(out);
+    }
 }
 
-void DataCtrl::GetDeletedItems(std::set<zbIBrowserDataSource*>& /*sources*/,
-                               std::set<zbIBrowserDataItem*>& /*out*/) {
+void DataCtrl::GetDeletedItems(std::set<zbIBrowserDataSource*>& sources,
+                               std::set<zbIBrowserDataItem*>& out) {
+    for (zbIBrowserDataSource* const source : sources) {
+        if (Source* const own = AsOwn(source))
+            own->AddRemovedRows(out);
+    }
 }
 
 void DataCtrl::GetItems(std::vector<zbIBrowserDataItem*>& out, zbIBrowserDataReference* reference,

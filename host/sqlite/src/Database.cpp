@@ -55,7 +55,7 @@ void ReadSchemaOnce(Database const& database, std::string_view schema) {
         .Step();
 }
 
-//! Opens a file through `open(uri)`, which must throw when the file cannot be read.
+//! Opens a file for reading through `open(uri)`, which must throw when the file cannot be read.
 //!
 //! A write-ahead file cannot be read in a folder where its index file cannot be made. If nothing
 //! can change there either, it needs no index.
@@ -63,12 +63,12 @@ template <class Open>
 void OpenAsNeeded(std::filesystem::path const& file, Open const& open) {
     detail::CheckFile(file);
     try {
-        open(detail::FileUri(file, false));
+        open(detail::FileUri(file, detail::Access::Read));
     } catch (Error const& error) {
         int const code = error.Code() & 0xff;
         if ((code != SQLITE_CANTOPEN && code != SQLITE_READONLY) || !detail::IsFrozen(file))
             throw;
-        open(detail::FileUri(file, true));
+        open(detail::FileUri(file, detail::Access::ReadFrozen));
     }
 }
 
@@ -108,7 +108,8 @@ int Database::State::OnBusy(void* state, int calls) {
 
 int Database::State::Connect(std::string const& uri) {
     sqlite3_close_v2(std::exchange(handle, nullptr));
-    int const flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX;
+    int const access = options.canWrite ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
+    int const flags = access | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX;
     int const code = sqlite3_open_v2(uri.c_str(), &handle, flags, nullptr);
     if (code != SQLITE_OK)
         return code;
@@ -131,11 +132,17 @@ void Database::State::Harden() const {
 
 Database::Database(std::filesystem::path const& file, OpenOptions const& options)
     : state_(std::make_unique<State>(file.string(), options)) {
-    OpenAsNeeded(file, [this](std::string const& uri) {
+    auto const open = [this](std::string const& uri) {
         if (state_->Connect(uri) != SQLITE_OK)
             ThrowLastError({});
         ReadSchemaOnce(*this, "main");
-    });
+    };
+    if (!options.canWrite) {
+        OpenAsNeeded(file, open);
+        return;
+    }
+    detail::CheckFile(file);
+    open(detail::FileUri(file, detail::Access::Write));
 }
 
 Database::Database(Database&&) noexcept = default;
@@ -165,6 +172,14 @@ std::string const& Database::File() const {
 
 sqlite3* Database::Handle() const {
     return state_->handle;
+}
+
+void Database::SetBusyTimeout(milliseconds timeout) {
+    state_->options.busyTimeout = timeout;
+}
+
+milliseconds Database::BusyTimeout() const {
+    return state_->options.busyTimeout;
 }
 
 bool Database::IsStopped() const {

@@ -16,6 +16,11 @@ Error::Error(std::string where, std::string what, int code)
 
 Error::~Error() = default;
 
+bool Error::IsBusy() const {
+    int const code = code_ & 0xff;
+    return code == SQLITE_BUSY || code == SQLITE_LOCKED;
+}
+
 bool Error::IsInterrupted() const {
     return (code_ & 0xff) == SQLITE_INTERRUPT;
 }

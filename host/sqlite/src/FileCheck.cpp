@@ -77,9 +77,10 @@ bool IsFrozen(fs::path const& file) {
            !HasContent(Beside(file, "-journal"));
 }
 
-std::string FileUri(fs::path const& file, bool immutable) {
-    std::string uri = "file://" + PercentEncode(fs::absolute(file).native()) + "?mode=ro";
-    if (immutable)
+std::string FileUri(fs::path const& file, Access access) {
+    std::string uri = "file://" + PercentEncode(fs::absolute(file).native());
+    uri += access == Access::Write ? "?mode=rw" : "?mode=ro";
+    if (access == Access::ReadFrozen)
         uri += "&immutable=1";
     return uri;
 }

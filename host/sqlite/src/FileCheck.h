@@ -3,6 +3,7 @@
 //! What can be said about a database file without SQLite.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -17,8 +18,13 @@ void CheckFile(std::filesystem::path const& file);
 //! beside it. Such a file may be read without the locks and the index file that SQLite would need.
 bool IsFrozen(std::filesystem::path const& file);
 
-//! The file as a URI that SQLite opens for reading only.
-//! `immutable`: without locks; only for a frozen file.
-std::string FileUri(std::filesystem::path const& file, bool immutable);
+enum class Access : std::uint8_t {
+    Read,
+    ReadFrozen, //!< Without locks; only for a frozen file.
+    Write
+};
+
+//! The file as a URI that SQLite opens with that access, and does not make.
+std::string FileUri(std::filesystem::path const& file, Access access);
 
 } // namespace zbsqlite::detail

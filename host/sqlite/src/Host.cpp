@@ -35,11 +35,8 @@ void Host::CreateView(HostOptions const& options) {
 }
 
 void Host::ConnectSources() {
-    auto* const name = view_->FindViewProperty(zbBrowserView::DEFAULT_NAME_PROP);
-    for (auto const& source : data_->Sources()) {
-        detail::Connect(*view_, *source);
-        detail::Connect(*view_, name, *source, &source->NameProperty());
-    }
+    for (auto const& source : data_->Sources())
+        detail::ConnectWithNames(*view_, *source);
 }
 
 zbIBrowserViewItemFreeFolder* Host::RootFolder() const {

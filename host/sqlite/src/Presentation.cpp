@@ -11,12 +11,19 @@
 #include <zbBrowserView/zbIBrowserViewProperty.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace zbsqlite {
 
 namespace {
 
 constexpr char const* kStyleName = "column_style";
+
+// Not the column's name: some names make an element one of the default style's.
+constexpr char const* kElementName = "column_value";
+
+// A view need not take an empty name, which SQL does.
+constexpr char const* kNoName = "(no name)";
 
 ZBBROWSER_DATA_TYPE TypeOf(Column const& column) {
     if (IsSameName(column.declaredType, "BOOLEAN") || IsSameName(column.declaredType, "BOOL"))
@@ -46,9 +53,10 @@ ZBBROWSER_DATA_TYPE CommonType(std::vector<Property*> const& columns) {
 //! The name itself, or with the least number behind it that makes it a new one.
 template <class IsTaken>
 std::string FreeName(std::string const& name, IsTaken isTaken) {
-    std::string free = name;
+    std::string const base = name.empty() ? kNoName : name;
+    std::string free = base;
     for (int number = 2; isTaken(free); ++number)
-        free = name + " (" + std::to_string(number) + ")";
+        free = base + " (" + std::to_string(number) + ")";
     return free;
 }
 
@@ -56,15 +64,30 @@ std::string FreeName(std::string const& name, IsTaken isTaken) {
 
 Presentation::Presentation(zbIBrowserView& view, std::vector<Source*> const& sources)
     : view_(view) {
-    for (Source* const source : sources) {
-        for (Property& column : source->Properties()) {
-            auto const [found, isNew] =
-                byName_.try_emplace(detail::FoldName(column.Name()), entries_.size());
-            if (isNew)
-                entries_.push_back({.name = column.Name(), .columns = {}});
-            entries_[found->second].columns.push_back(&column);
-        }
+    for (Source* const source : sources)
+        Add(*source);
+}
+
+//! Each column goes behind the one before it, so that those of a source stand in its own order as
+//! far as the sources agree.
+void Presentation::Add(Source& source) {
+    auto place = FirstShared(source);
+    for (Property& column : source.Properties()) {
+        auto const [found, isNew] = byName_.try_emplace(detail::FoldName(column.Name()), place);
+        if (isNew)
+            found->second = entries_.insert(place, {.name = column.Name(), .columns = {}});
+        place = std::next(found->second);
+        found->second->columns.push_back(&column);
     }
+}
+
+Presentation::Entries::iterator Presentation::FirstShared(Source const& source) {
+    for (Property const& column : source.Properties()) {
+        auto const found = byName_.find(detail::FoldName(column.Name()));
+        if (found != byName_.end())
+            return found->second;
+    }
+    return entries_.end();
 }
 
 std::vector<std::string> Presentation::Names() const {
@@ -77,7 +100,7 @@ std::vector<std::string> Presentation::Names() const {
 
 Presentation::Entry* Presentation::Find(std::string_view name) {
     auto const found = byName_.find(detail::FoldName(name));
-    return found == byName_.end() ? nullptr : &entries_[found->second];
+    return found == byName_.end() ? nullptr : &*found->second;
 }
 
 zbIBrowserViewColumn* Presentation::FindColumn(std::string_view name) {
@@ -116,8 +139,9 @@ zbIBrowserViewColumn* Presentation::MakeColumn(Entry const& entry) {
     if (name != entry.name)
         column->SetTitle(entry.name.c_str());
     column->CreateStyle(kStyleName);
-    auto* const style = column->FindStyle(kStyleName);
-    style->CreateElement(name.c_str(), entry.name.c_str())->SetViewProperty(MakeProperty(entry));
+    auto* const element =
+        column->FindStyle(kStyleName)->CreateElement(kElementName, entry.name.c_str());
+    element->SetViewProperty(MakeProperty(entry));
     return column;
 }
 

@@ -45,12 +45,12 @@ std::string ToDisplayText(Value const& value) {
 }
 
 Value Property::GetValue(Row const& row) const {
-    return row.GetValue(index_);
+    return IsGone() ? Value() : row.GetValue(index_);
 }
 
 Value Property::GetValue(zbIBrowserDataItem const* item) const {
     Row const* const row = source_->FindRow(item);
-    return row != nullptr ? row->GetValue(index_) : Value();
+    return row != nullptr ? GetValue(*row) : Value();
 }
 
 bool Property::GetDisplayText(zbIBrowserDataItem* item, zbIBrowserDataItem* /*parent*/,

@@ -4,10 +4,12 @@
 #include "Names.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <limits>
 #include <new>
+#include <span>
 
 namespace zbsqlite::detail {
 
@@ -48,6 +50,24 @@ bool IsLastChunk(std::uint64_t head) {
     return (head & 0xffU) <= kChunk;
 }
 
+//! Kinds in their order; integers and reals are one.
+enum Kind : std::size_t { kNulls, kNumbers, kTexts, kBlobs, kKinds };
+
+Kind KindOf(Value const& value) {
+    switch (value.kind) {
+    case ValueKind::Null:
+        return kNulls;
+    case ValueKind::Integer:
+    case ValueKind::Real:
+        return kNumbers;
+    case ValueKind::Text:
+        return kTexts;
+    case ValueKind::Blob:
+        break;
+    }
+    return kBlobs;
+}
+
 double AsReal(Value const& number) {
     return number.kind == ValueKind::Integer ? static_cast<double>(number.integer) : number.real;
 }
@@ -63,17 +83,17 @@ std::uint64_t OrderedBits(double real) {
 //! sort, and looks at whole values only where that does not tell them apart.
 class Ranker {
 public:
-    Ranker(std::span<Row const> rows, std::size_t column)
+    Ranker(RowSlots const& rows, std::size_t column)
         : rows_(rows)
         , column_(column)
-        , places_(rows.size()) {}
+        , places_(rows.Size()) {}
 
     std::vector<std::uint32_t> Run() && {
         SplitByKind();
-        MarkEqual(nulls_);
-        RankNumbers();
-        RankTexts(texts_, 0, Letters::Folded);
-        RankTexts(blobs_, 0, Letters::AsTheyAre);
+        MarkEqual(kinds_[kNulls]);
+        RankNumbers(kinds_[kNumbers]);
+        RankTexts(kinds_[kTexts], 0, Letters::Folded);
+        RankTexts(kinds_[kBlobs], 0, Letters::AsTheyAre);
         return std::move(places_);
     }
 
@@ -87,38 +107,18 @@ private:
     Value ValueOf(Key const& key) const { return rows_[key.row].GetValue(column_); }
 
     void SplitByKind() {
-        std::vector<Key> numbers;
-        std::vector<Key> texts;
-        std::vector<Key> blobs;
-        for (std::uint32_t row = 0; row < rows_.size(); ++row) {
-            Key key{0, row};
-            auto const value = ValueOf(key);
-            switch (value.kind) {
-            case ValueKind::Null:
-                keys_.push_back(key);
-                break;
-            case ValueKind::Integer:
-            case ValueKind::Real:
-                key.head = OrderedBits(AsReal(value));
-                numbers.push_back(key);
-                break;
-            case ValueKind::Text:
-                texts.push_back(key);
-                break;
-            case ValueKind::Blob:
-                blobs.push_back(key);
-                break;
-            }
+        std::array<std::vector<Key>, kKinds> byKind;
+        for (std::uint32_t row = 0; row < rows_.Size(); ++row) {
+            auto const value = rows_[row].GetValue(column_);
+            auto const kind = KindOf(value);
+            byKind[kind].push_back({kind == kNumbers ? OrderedBits(AsReal(value)) : 0, row});
         }
-        auto const nulls = keys_.size();
-        keys_.insert(keys_.end(), numbers.begin(), numbers.end());
-        keys_.insert(keys_.end(), texts.begin(), texts.end());
-        keys_.insert(keys_.end(), blobs.begin(), blobs.end());
-        Keys const all(keys_);
-        nulls_ = all.first(nulls);
-        numbers_ = all.subspan(nulls, numbers.size());
-        texts_ = all.subspan(nulls + numbers.size(), texts.size());
-        blobs_ = all.last(blobs.size());
+        keys_.reserve(rows_.Size());
+        for (std::size_t kind = 0; kind < kKinds; ++kind) {
+            auto const& keys = byKind[kind];
+            auto const begin = keys_.insert(keys_.end(), keys.begin(), keys.end());
+            kinds_[kind] = Keys(begin, keys.size());
+        }
     }
 
     //! Sorts by the heads and hands on each group of those with the same.
@@ -136,8 +136,8 @@ private:
         }
     }
 
-    void RankNumbers() {
-        GroupByHead(numbers_, [this](Keys group) {
+    void RankNumbers(Keys keys) {
+        GroupByHead(keys, [this](Keys group) {
             if (group.size() > 1 && std::abs(AsReal(ValueOf(group.front()))) >= kExactIntegers)
                 RankWhole(group);
             else
@@ -152,11 +152,9 @@ private:
             return;
         }
         GroupByHead(keys, [this, chunk, letters](Keys group) {
-            if (group.size() == 1)
-                MarkEqual(group);
-            else if (!IsLastChunk(group.front().head))
+            if (group.size() > 1 && !IsLastChunk(group.front().head))
                 RankTexts(group, chunk + 1, letters);
-            else if (letters == Letters::Folded)
+            else if (group.size() > 1 && letters == Letters::Folded)
                 RankTexts(group, 0, Letters::AsTheyAre);
             else
                 MarkEqual(group);
@@ -198,36 +196,32 @@ private:
             places_[key.row] = place;
     }
 
-    std::span<Row const> rows_;
+    RowSlots const& rows_;
     std::size_t column_;
     std::vector<std::uint32_t> places_;
     std::vector<Key> keys_;
-    Keys nulls_;
-    Keys numbers_;
-    Keys texts_;
-    Keys blobs_;
+    std::array<Keys, kKinds> kinds_; // Of `keys_`.
 };
 
 } // namespace
 
-std::vector<std::uint32_t> RankRows(std::span<Row const> rows, std::size_t column) {
+std::vector<std::uint32_t> RankRows(RowSlots const& rows, std::size_t column) {
     return Ranker(rows, column).Run();
 }
 
-int ColumnOrder::Compare(std::span<Row const> rows, std::size_t column, Row const& a,
-                         Row const& b) {
+int ColumnOrder::Compare(RowSlots const& rows, std::size_t column, Row const& a, Row const& b) {
     if (!IsRanked(rows, column))
         return zbsqlite::Compare(a.GetValue(column), b.GetValue(column));
-    auto const placeOfA = places_[static_cast<std::size_t>(&a - rows.data())];
-    auto const placeOfB = places_[static_cast<std::size_t>(&b - rows.data())];
+    auto const placeOfA = places_[rows.SlotOf(&a)];
+    auto const placeOfB = places_[rows.SlotOf(&b)];
     return placeOfA < placeOfB ? -1 : (placeOfB < placeOfA ? 1 : 0);
 }
 
-bool ColumnOrder::IsRanked(std::span<Row const> rows, std::size_t column) {
+bool ColumnOrder::IsRanked(RowSlots const& rows, std::size_t column) {
     if (!places_.empty())
         return true;
-    if (rows.size() < kFewRows || ++asked_ < rows.size() / kRowsPerQuestion ||
-        rows.size() > std::numeric_limits<std::uint32_t>::max())
+    if (rows.Size() < kFewRows || ++asked_ < rows.Size() / kRowsPerQuestion ||
+        rows.Size() > std::numeric_limits<std::uint32_t>::max())
         return false;
     try {
         places_ = RankRows(rows, column);

@@ -174,6 +174,14 @@ std::size_t RecordSize(std::span<Value const> values) {
     return size;
 }
 
+std::size_t RecordSize(std::byte const* record, std::size_t columns) {
+    Byte const* const tags = record + OffsetsSize(columns);
+    Byte const* body = tags + columns;
+    for (std::size_t i = 0; i < columns; ++i)
+        body = SkipBody(body, std::to_integer<std::uint8_t>(tags[i]));
+    return static_cast<std::size_t>(body - record);
+}
+
 void WriteRecord(std::span<Value const> values, std::byte* record) {
     Byte* const tags = record + OffsetsSize(values.size());
     Byte* body = tags + values.size();
@@ -185,6 +193,13 @@ void WriteRecord(std::span<Value const> values, std::byte* record) {
         tags[i] = Byte{tag};
         body = StoreBody(body, tag, values[i]);
     }
+}
+
+std::byte const* NullRecord() {
+    // Offsets and tags of as many columns as SQLite can be made to allow, and no bodies.
+    constexpr std::size_t columns = 0x8000;
+    static constexpr std::byte record[columns + columns / kGroup * sizeof(std::uint32_t)] = {};
+    return record;
 }
 
 Value ReadRecord(std::byte const* record, std::size_t columns, std::size_t column) {

@@ -25,8 +25,14 @@ constexpr std::size_t kMaxRecordSize = 0xffffffff;
 
 std::size_t RecordSize(std::span<Value const> values);
 
+//! The size of a record that has been written. `columns`: of the whole record.
+std::size_t RecordSize(std::byte const* record, std::size_t columns);
+
 //! Requires: room for `RecordSize(values)` bytes, at most `kMaxRecordSize`.
 void WriteRecord(std::span<Value const> values, std::byte* record);
+
+//! A record of any number of columns, all null.
+std::byte const* NullRecord();
 
 //! `columns`: of the whole record. The value refers to the record's bytes.
 Value ReadRecord(std::byte const* record, std::size_t columns, std::size_t column);

@@ -8,6 +8,10 @@ zbIBrowserDataSourceSimple* Row::GetDataSource() const {
     return source_;
 }
 
+bool Row::IsDirty() const {
+    return source_->IsRowDirty(*this);
+}
+
 Value Row::GetValue(std::size_t column) const {
     return source_->ReadValue(record_, column);
 }

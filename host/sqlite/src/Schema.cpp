@@ -110,9 +110,22 @@ std::vector<ForeignKey> ReadForeignKeys(Database const& database, Table const& t
     return keys;
 }
 
+//! The one column of a primary key is the rowid if it is declared as INTEGER, but for some odd
+//! cases in which, as for any other key, there is an index of it.
+int ReadRowidColumn(Database const& database, Table const& table) {
+    std::vector<std::size_t> const key = table.PrimaryKey();
+    if (!table.hasRowid || key.size() != 1 ||
+        !IsSameName(table.columns[key.front()].declaredType, "INTEGER"))
+        return -1;
+    Statement query(database, "SELECT 1 FROM pragma_index_list(?1, ?2) WHERE origin = 'pk'");
+    query.Bind(1, table.name).Bind(2, table.schema);
+    return query.Step() ? -1 : static_cast<int>(key.front());
+}
+
 void ReadTable(Database const& database, Table& table) {
     try {
         table.columns = ReadColumns(database, table);
+        table.rowidColumn = ReadRowidColumn(database, table);
         table.foreignKeys = ReadForeignKeys(database, table);
         if (table.columns.empty()) // Why there are none, only a query tells.
             Statement(database, "SELECT * FROM " + detail::QuoteName(table.schema) + "." +

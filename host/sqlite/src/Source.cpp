@@ -6,26 +6,33 @@
 #include <zbBrowserView/sqlite/DataCtrl.h>
 #include <zbBrowserView/sqlite/Source.h>
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
 namespace zbsqlite {
 
-Source::Source(DataCtrl& control, Table const& table, std::string name, std::size_t index)
+Source::Source(DataCtrl& control, Table table, std::string name, std::size_t index)
     : control_(control)
-    , table_(table)
+    , table_(std::make_unique<Table const>(std::move(table)))
     , name_(std::move(name))
     , index_(index)
     , rowName_(std::make_unique<RowName>(*this)) {
-    properties_.reserve(table.columns.size());
-    for (Column const& column : table.columns) {
-        if (column.kind != ColumnKind::Hidden)
-            properties_.emplace_back(*this, column, properties_.size());
-    }
+    properties_ = MakeProperties(*table_);
     ChooseName();
 }
 
 Source::~Source() = default;
+
+std::vector<Property> Source::MakeProperties(Table const& table) {
+    std::vector<Property> properties;
+    properties.reserve(table.columns.size());
+    for (Column const& column : table.columns) {
+        if (column.kind != ColumnKind::Hidden)
+            properties.emplace_back(*this, column, properties.size());
+    }
+    return properties;
+}
 
 zbIBrowserDataCtrl* Source::GetDataCtrl() {
     return &control_;
@@ -36,7 +43,7 @@ zbBrowserTypeId Source::GetTypeId() {
 }
 
 char const* Source::GetTypeName() const {
-    switch (table_.kind) {
+    switch (table_->kind) {
     case TableKind::View:
         return "view";
     case TableKind::Virtual:
@@ -83,9 +90,8 @@ bool Source::IsOfType(zbIBrowserDataSourceSimple* source) {
 bool Source::GetDataItems(std::vector<zbIBrowserDataItemSimple*>& out) {
     if (!Load())
         return false;
-    out.reserve(out.size() + store_->rows.size());
-    for (Row& row : store_->rows)
-        out.push_back(&row);
+    std::vector<Row*> const rows = store_->InOrder();
+    out.insert(out.end(), rows.begin(), rows.end());
     return true;
 }
 
@@ -93,10 +99,11 @@ bool Source::ContainsDataItem(zbIBrowserDataItemSimple* item) {
     return FindRow(item) != nullptr;
 }
 
-std::span<Row const> Source::Rows() const {
+std::vector<Row const*> Source::Rows() const {
     if (!store_)
         return {};
-    return store_->rows;
+    std::vector<Row*> const rows = store_->InOrder();
+    return {rows.begin(), rows.end()};
 }
 
 std::size_t Source::MemoryUsed() const {
@@ -108,14 +115,7 @@ std::size_t Source::TextBytes() const {
 }
 
 Row const* Source::FindRow(zbIBrowserDataItem const* item) const {
-    std::span<Row const> const rows = Rows();
-    // The rows stand side by side, so an address tells whether it is one of them.
-    auto const first =
-        reinterpret_cast<std::uintptr_t>(static_cast<zbIBrowserDataItem const*>(rows.data()));
-    auto const offset = reinterpret_cast<std::uintptr_t>(item) - first;
-    if (item == nullptr || offset >= rows.size_bytes() || offset % sizeof(Row) != 0)
-        return nullptr;
-    return &rows[offset / sizeof(Row)];
+    return store_ ? store_->slots.Find(item) : nullptr;
 }
 
 zbIBrowserDataProperty& Source::NameProperty() const {
@@ -125,18 +125,30 @@ zbIBrowserDataProperty& Source::NameProperty() const {
 //! A cast costs more than a comparison of addresses, and painting and sorting ask a million times.
 Property const* Source::AsColumn(zbIBrowserDataProperty const* property) const {
     auto const* const own = static_cast<Property const*>(property);
-    std::less_equal<> const notAfter;
-    bool const isOwn = !properties_.empty() && notAfter(&properties_.front(), own) &&
-                       notAfter(own, &properties_.back());
+    auto const isAmong = [own](std::vector<Property> const& properties) {
+        std::less_equal<> const notAfter;
+        return !properties.empty() && notAfter(&properties.front(), own) &&
+               notAfter(own, &properties.back());
+    };
+    bool const isOwn =
+        isAmong(properties_) || std::any_of(former_.begin(), former_.end(),
+                                            [&](Former const& f) { return isAmong(f.properties); });
     return isOwn ? own : nullptr;
 }
 
 std::size_t Source::IndexOf(Row const& row) const {
-    return static_cast<std::size_t>(&row - store_->rows.data());
+    return store_->slots.SlotOf(&row);
 }
 
 Value Source::ReadValue(std::byte const* record, std::size_t column) const {
     return detail::ReadRecord(record, RecordColumns(), column);
+}
+
+bool Source::IsRowDirty(Row const& row) const {
+    if (!store_ || store_->dirty.empty())
+        return false;
+    std::size_t const slot = store_->slots.SlotOf(&row);
+    return slot < store_->dirty.size() && store_->dirty[slot];
 }
 
 //! The rowid stands behind the columns in a record, where it is needed.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! Loading the rows of a source.
+#include "FlagGuard.h"
 #include "Quote.h"
 #include "Record.h"
 #include "RowStore.h"
@@ -19,21 +20,6 @@ namespace {
 
 constexpr std::uint64_t kRowsBetweenReports = 4096;
 
-//! Sets a flag as long as it lives.
-class FlagGuard {
-public:
-    explicit FlagGuard(bool& flag)
-        : flag_(flag) {
-        flag_ = true;
-    }
-    FlagGuard(FlagGuard const&) = delete;
-    FlagGuard& operator=(FlagGuard const&) = delete;
-    ~FlagGuard() { flag_ = false; }
-
-private:
-    bool& flag_;
-};
-
 std::size_t CountTextBytes(std::span<Value const> values) {
     std::size_t count = 0;
     for (Value const& value : values)
@@ -46,9 +32,10 @@ std::size_t CountTextBytes(std::span<Value const> values) {
 bool Source::Load() {
     if (store_)
         return true;
-    if (isLoading_) // Asked for from within the progress report of this very load.
+    // Asked for from within the progress report of this very load, or after the table has gone.
+    if (isLoading_ || isGone_)
         return false;
-    FlagGuard const guard(isLoading_);
+    detail::FlagGuard const guard(isLoading_);
     error_.reset();
     try {
         store_ = ReadRows();
@@ -56,8 +43,7 @@ bool Source::Load() {
     } catch (Error const& error) {
         error_ = error;
     } catch (std::bad_alloc const&) {
-        error_ =
-            Error(control_.GetDatabase().File() + ", " + Place(), "out of memory", SQLITE_NOMEM);
+        error_ = Error(Where(), "out of memory", SQLITE_NOMEM);
     }
     control_.NoteError(*error_);
     return false;
@@ -65,11 +51,10 @@ bool Source::Load() {
 
 std::unique_ptr<Source::RowStore> Source::ReadRows() {
     Database const& database = control_.GetDatabase();
-    std::string const where = database.File() + ", " + Place();
-    if (!table_.problem.empty())
-        throw Error(where, table_.problem);
+    if (!table_->problem.empty())
+        throw Error(Where(), table_->problem);
     if (database.IsStopped())
-        throw Error(where, "stopped", SQLITE_INTERRUPT);
+        throw Error(Where(), "stopped", SQLITE_INTERRUPT);
 
     auto store = std::make_unique<RowStore>();
     // Grows without moving what it holds, and goes before the row objects are handed out.
@@ -78,22 +63,31 @@ std::unique_ptr<Source::RowStore> Source::ReadRows() {
     store->orders.resize(values.size());
     detail::Statement query(database, LoadQuery(), Place());
     while (query.Step()) {
-        for (std::size_t i = 0; i < values.size(); ++i)
-            values[i] = query.Column(static_cast<int>(i));
-        std::size_t const size = detail::RecordSize(values);
-        if (size > detail::kMaxRecordSize)
-            throw Error(where, "row " + std::to_string(records.size() + 1) + " is too large");
-        std::byte* const record = store->arena.Allocate(size);
+        ReadValues(query, values);
+        std::byte* const record = store->arena.Allocate(SizeOfRecord(values, records.size() + 1));
         detail::WriteRecord(values, record);
         records.push_back(record);
         store->textBytes += CountTextBytes(values);
         if (records.size() % kRowsBetweenReports == 0)
             control_.ReportProgress(*this, records.size());
     }
-    store->rows.reserve(records.size());
+    store->slots.Prepare(records.size(), 0);
     for (std::byte const* const record : records)
-        store->rows.emplace_back(*this, record);
+        store->slots.Add(Row(*this, record));
     return store;
+}
+
+//! The values are valid until the next step of the query.
+void Source::ReadValues(detail::Statement const& query, std::span<Value> values) {
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = query.Column(static_cast<int>(i));
+}
+
+std::size_t Source::SizeOfRecord(std::span<Value const> values, std::size_t rowNumber) const {
+    std::size_t const size = detail::RecordSize(values);
+    if (size > detail::kMaxRecordSize)
+        throw Error(Where(), "row " + std::to_string(rowNumber) + " is too large");
+    return size;
 }
 
 //! No order is asked for: the rows come as plain SQL gives them.
@@ -106,8 +100,12 @@ std::string Source::LoadQuery() const {
     }
     if (!rowidName_.empty())
         query.append(properties_.empty() ? "s." : ", s.").append(rowidName_);
-    return query + " FROM " + detail::QuoteName(table_.schema) + "." +
-           detail::QuoteName(table_.name) + " AS s";
+    return query + " FROM " + detail::QuoteName(table_->schema) + "." +
+           detail::QuoteName(table_->name) + " AS s";
+}
+
+std::string Source::Where() const {
+    return control_.GetDatabase().File() + ", " + Place();
 }
 
 std::string Source::Place() const {

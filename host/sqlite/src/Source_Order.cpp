@@ -37,32 +37,39 @@ void Source::ChooseName() {
     if (chooseFirst([](Column const& column) { return column.affinity == Affinity::Text; }))
         return;
     // Full-text tables and computed columns of views declare no types.
-    bool const isUntyped = table_.kind == TableKind::Virtual || table_.kind == TableKind::View;
+    bool const isUntyped = table_->kind == TableKind::Virtual || table_->kind == TableKind::View;
     if (isUntyped && chooseFirst([](Column const& column) { return column.declaredType.empty(); }))
         return;
-    for (std::size_t const column : table_.PrimaryKey()) {
+    nameColumns_ = PrimaryKeyColumns();
+    if (nameColumns_.empty())
+        rowidName_ = FindRowidName(*table_);
+}
+
+std::vector<std::size_t> Source::PrimaryKeyColumns() const {
+    std::vector<std::size_t> columns;
+    for (std::size_t const column : table_->PrimaryKey()) {
         for (Property const& property : properties_) {
-            if (&property.Declaration() == &table_.columns[column])
-                nameColumns_.push_back(property.Index());
+            if (&property.Declaration() == &table_->columns[column])
+                columns.push_back(property.Index());
         }
     }
-    if (nameColumns_.empty())
-        rowidName_ = FindRowidName();
+    return columns;
 }
 
 //! Loaded rows keep the rowid: it has its place in their records.
 void Source::NameRowsBy(Property const& column) {
     nameColumns_ = {column.Index()};
-    if (!store_)
+    isNameGiven_ = true;
+    if (!store_ && !keepsKeys_)
         rowidName_ = {};
 }
 
 //! A column may bear one of the rowid's names and hide it.
-std::string_view Source::FindRowidName() const {
-    if (!table_.hasRowid)
+std::string_view Source::FindRowidName(Table const& table) {
+    if (!table.hasRowid)
         return {};
     for (std::string_view const name : {"rowid", "_rowid_", "oid"}) {
-        if (table_.FindColumn(name) < 0)
+        if (table.FindColumn(name) < 0)
             return name;
     }
     return {};
@@ -139,7 +146,7 @@ bool Source::CompareValues(Row const* a, Property const* propertyOfA, Row const*
     if (&propertyOfA->GetSource() != &a->GetSource() ||
         &propertyOfB->GetSource() != &b->GetSource())
         return false;
-    if (propertyOfA == propertyOfB)
+    if (propertyOfA == propertyOfB && !propertyOfA->IsGone())
         cmp = a->GetSource().CompareByColumn(*a, *b, propertyOfA->Index());
     else
         cmp = Compare(propertyOfA->GetValue(*a), propertyOfB->GetValue(*b));
@@ -148,7 +155,7 @@ bool Source::CompareValues(Row const* a, Property const* propertyOfA, Row const*
 
 //! Requires: two rows of this source, and a column of its records.
 int Source::CompareByColumn(Row const& a, Row const& b, std::size_t column) {
-    return store_->orders[column].Compare(store_->rows, column, a, b);
+    return store_->orders[column].Compare(store_->slots, column, a, b);
 }
 
 //! The one column that makes the names; nothing if there are more or none.

@@ -43,10 +43,12 @@ public:
 
     Database const& GetDatabase() const { return database_; }
 
-    //! All sources, in the order of `ReadSchema`. They live as long as the control.
+    //! All sources, in the order of `ReadSchema`, and behind them what has been made since. They
+    //! live as long as the control, also when their tables have gone and they stand here no longer.
     std::vector<std::unique_ptr<Source>> const& Sources() const { return sources_; }
 
-    //! One for each foreign key whose parent table exists.
+    //! One for each foreign key whose parent table exists. They are made anew when the schema
+    //! changes.
     std::vector<Reference>& References() { return references_; }
 
     void SetProgress(Progress progress) { progress_ = std::move(progress); }
@@ -76,36 +78,53 @@ public:
     zbIBrowserDataItem* GetCurrentDataItem() const { return current_; }
     zbIBrowserDataCollectorType* FindCollectorType(char const* name) override;
 
-    //! Adds nothing: rows stay as they were loaded. So do GetDeletedItems and GetChangedLinks.
+    //! The rows of which views are just being told, by `Changes`.
     void GetDirtyItems(std::set<zbIBrowserDataSource*>& sources,
                        std::set<zbIBrowserDataItem*>& out) override;
     void GetDeletedItems(std::set<zbIBrowserDataSource*>& sources,
                          std::set<zbIBrowserDataItem*>& out) override;
 
-    //! All rows of a source, when neither a reference nor a parent is given. Links are declared
-    //! (`References()`) but not followed: nothing is added for a reference.
-    void GetItems(std::vector<zbIBrowserDataItem*>& out, zbIBrowserDataReference* reference,
-                  zbIBrowserDataSource* source, zbIBrowserDataItem* parent, bool flag) override;
+    //! Adds nothing: links are not followed.
     void GetChangedLinks(std::vector<std::pair<zbIBrowserDataItem*, zbIBrowserDataItem*>>& removed,
                          std::vector<std::pair<zbIBrowserDataItem*, zbIBrowserDataItem*>>& added,
                          zbIBrowserDataReference* reference, zbIBrowserDataSource* parentSource,
                          zbIBrowserDataSource* childSource, bool flag) override;
 
+    //! All rows of a source, when neither a reference nor a parent is given. Links are declared
+    //! (`References()`) but not followed: nothing is added for a reference.
+    void GetItems(std::vector<zbIBrowserDataItem*>& out, zbIBrowserDataReference* reference,
+                  zbIBrowserDataSource* source, zbIBrowserDataItem* parent, bool flag) override;
+
 private:
+    friend class Changes;
     friend class Source;
 
-    void MakeSources();
+    struct SchemaChanges {
+        std::vector<Source*> gone;
+        std::vector<Source*> altered;
+        std::vector<Source*> created;
+    };
+
+    void MakeSources(std::vector<Table> tables);
+    Source& AddSource(Table table, std::string name);
     void MakeReferences();
+    void KeepKeys();
+    bool IsSchema(std::vector<Table> const& tables) const;
+    SchemaChanges UpdateSchema(std::vector<Table> tables);
+    void Remove(Source& source);
+    std::string UnusedName(Table const& table) const;
     Source* AsOwn(zbIBrowserDataSource* source) const;
     void ReportProgress(Source const& source, std::uint64_t rows) const;
     void NoteError(Error const& error) { error_ = error; }
 
     Database database_;
     std::string name_;
-    std::vector<Table> tables_; // Not changed once the sources refer to it.
     std::vector<std::unique_ptr<Source>> sources_;
+    std::size_t sourcesMade_ = 0;
+    std::vector<std::unique_ptr<Source>> gone_;       // Views and programs may still know them.
     std::unordered_map<std::string, Source*> byName_; // By folded name. Not owned.
     std::vector<Reference> references_;
+    bool keepsKeys_ = false;
     zbIBrowserDataItem* current_ = nullptr; // Not owned, may be null or gone; never followed.
     Progress progress_;
     std::optional<Error> error_;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //! \file
-//! One open SQLite file, for reading only.
+//! One open SQLite file, for reading only unless asked for.
 #pragma once
 
 #include <zbBrowserView/sqlite/zbSqliteExport.h>
@@ -24,10 +24,15 @@ struct OpenOptions {
     //! running or waiting stops within milliseconds with an `Error` whose `IsInterrupted()` is
     //! true. Must outlive the database.
     std::atomic<bool> const* stop = nullptr;
+
+    //! Whether statements of the program's own may write the file. Files that are attached may not
+    //! be written in any case.
+    bool canWrite = false;
 };
 
-//! One connection to one file. Nothing is ever written: not to the file, and not beside it unless
-//! the file is in write-ahead mode, where SQLite itself needs its index file.
+//! One connection to one file. Unless `OpenOptions::canWrite` is set, nothing is ever written: not
+//! to the file, and not beside it unless the file is in write-ahead mode, where SQLite itself needs
+//! its index file.
 //!
 //! The file is not trusted: nothing in it can load code or change anything, and its pages are
 //! checked while they are read.
@@ -54,6 +59,10 @@ public:
 
     //! The connection, for queries of one's own. Valid as long as the database.
     sqlite3* Handle() const;
+
+    //! `OpenOptions::busyTimeout`, from now on.
+    void SetBusyTimeout(std::chrono::milliseconds timeout);
+    std::chrono::milliseconds BusyTimeout() const;
 
     //! Whether a stop was asked for.
     bool IsStopped() const;

@@ -28,6 +28,9 @@ public:
 
     int Code() const { return code_; }
 
+    //! Whether another program had the file locked; the same may work a moment later.
+    bool IsBusy() const;
+
     //! Whether the work was stopped on request (see `OpenOptions::stop`) and nothing is wrong.
     bool IsInterrupted() const;
 

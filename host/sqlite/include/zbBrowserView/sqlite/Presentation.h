@@ -5,7 +5,7 @@
 
 #include <zbBrowserView/sqlite/zbSqliteExport.h>
 
-#include <cstddef>
+#include <list>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -31,14 +31,15 @@ class Source;
 //! in it one style with one element, which is bound to the property.
 //!
 //! Names are those of SQL: ASCII case aside. The view's column and property bear the name, too,
-//! unless the view has one of that name; " (2)" is added then. The column's title is the name.
+//! unless the view has one of that name; " (2)" is added then. One without a name is called
+//! "(no name)". The column's title is the name without such a number.
 class ZBSQLITE_API Presentation {
 public:
     //! `view`, of either generation, and `sources` must outlive what is made.
     Presentation(zbIBrowserView& view, std::vector<Source*> const& sources);
 
-    //! The names of all columns, as the first source that has one spells it, in the order of the
-    //! sources and their columns.
+    //! The names of all columns, as the first source that has one spells it. The columns of each
+    //! source stand in its own order, as far as the sources agree on one.
     std::vector<std::string> Names() const;
 
     //! The view's column for the database columns of that name; made, and visible, when it is first
@@ -59,14 +60,18 @@ private:
         zbIBrowserViewColumn* column = nullptr; // Not owned; null until it is made.
     };
 
+    using Entries = std::list<Entry>;
+
+    void Add(Source& source);
+    Entries::iterator FirstShared(Source const& source);
     Entry* Find(std::string_view name);
     zbIBrowserViewColumn* MakeColumn(Entry const& entry);
     zbIBrowserViewProperty* MakeProperty(Entry const& entry);
     void Connect(zbIBrowserViewProperty* property, Entry const& entry);
 
     zbIBrowserView& view_;
-    std::vector<Entry> entries_;
-    std::unordered_map<std::string, std::size_t> byName_; // By folded name.
+    Entries entries_;
+    std::unordered_map<std::string, Entries::iterator> byName_; // By folded name.
 };
 
 } // namespace zbsqlite

@@ -37,10 +37,13 @@ public:
     //! What the schema says about the column.
     Column const& Declaration() const { return *column_; }
 
-    //! 0-based place among `Source::Properties()`.
+    //! 0-based place among `Source::Properties()`. Requires: the column has not gone.
     std::size_t Index() const { return index_; }
 
-    //! The value as it is stored. No copy is made; it is valid as long as the row.
+    //! Whether the table has lost the column since; each value is null then.
+    bool IsGone() const { return index_ == kGone; }
+
+    //! The value as it is stored. No copy is made; it is valid as long as that of `Row::GetValue`.
     //! Requires: a row of this property's source.
     Value GetValue(Row const& row) const;
 
@@ -77,6 +80,10 @@ public:
     bool SetVariant(zbVariant value) override;
 
 private:
+    friend class Source;
+
+    static constexpr std::size_t kGone = static_cast<std::size_t>(-1);
+
     Source* source_;       // Not owned, never null.
     Column const* column_; // Not owned, never null.
     std::size_t index_;

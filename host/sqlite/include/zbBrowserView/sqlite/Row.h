@@ -13,9 +13,13 @@ namespace zbsqlite {
 
 class Source;
 
+namespace detail {
+class RowMatcher;
+}
+
 //! One row of a table or view: a data item. It is three pointers large, since there may be
-//! millions; its values stand packed in its source's memory. It lives and keeps its address as
-//! long as its source.
+//! millions; its values stand packed in its source's memory. It keeps its address, as long as its
+//! source lives, whatever happens to its values.
 class ZBSQLITE_API Row final : public zbIBrowserDataItemSimple {
 public:
     //! Made by the source. `record` is not owned.
@@ -33,14 +37,17 @@ public:
     //! Failure: false for a column that does not exist or holds null; `value` stays.
     bool GetProperty(char const* key, zbString& value) override;
 
-    //! Always false: the rows are as they were when they were loaded.
-    bool IsDirty() const override { return false; }
+    //! True from a change that another program made until all views have been told of it.
+    bool IsDirty() const override;
 
     //! The value of a column, 0-based among `Source::Properties()`. No copy is made; the value is
-    //! valid as long as the row.
+    //! valid until `Changes::Poll` returns next; without a follower, as long as the row.
     Value GetValue(std::size_t column) const;
 
 private:
+    friend class Source;
+    friend class detail::RowMatcher;
+
     Source* source_;          // Not owned, never null.
     std::byte const* record_; // Not owned, never null.
 };

@@ -42,6 +42,8 @@ struct Column {
     bool hasDefault = false;
     std::string defaultValue;   //!< An SQL expression.
     int primaryKeyPosition = 0; //!< 1-based place in the primary key, 0 outside.
+
+    bool operator==(Column const& other) const = default;
 };
 
 //! A declared foreign key. Nothing guarantees that the rows keep to it, nor that the parent table
@@ -56,6 +58,8 @@ struct ForeignKey {
     std::string onUpdate; //!< "NO ACTION", "CASCADE" ...
     std::string onDelete;
     std::string match;
+
+    bool operator==(ForeignKey const& other) const = default;
 };
 
 struct ZBSQLITE_API Table {
@@ -64,11 +68,12 @@ struct ZBSQLITE_API Table {
     TableKind kind = TableKind::Table;
     bool hasRowid = true;
     bool isStrict = false;
+    int rowidColumn = -1; //!< Index of the column that is the rowid itself; -1 if none is.
     std::vector<Column> columns;
     std::vector<ForeignKey> foreignKeys;
 
     //! Why the columns could not be read, for instance a module that is not there or a view of a
-    //! table that has gone. Empty if nothing is wrong.
+    //! table that has gone. Empty if nothing is wrong. The columns are those of before, if any.
     std::string problem;
 
     //! Indexes of the primary key's columns, in its order.
@@ -76,6 +81,8 @@ struct ZBSQLITE_API Table {
 
     //! Index of a column, ASCII case aside; -1 if there is none.
     int FindColumn(std::string_view columnName) const;
+
+    bool operator==(Table const& other) const = default;
 };
 
 //! Reads all tables and views: schema by schema (the file, then what was attached, in that order),

@@ -13,6 +13,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,29 +24,35 @@ namespace zbsqlite {
 class DataCtrl;
 class RowName;
 
+namespace detail {
+class Statement;
+}
+
 //! One table or view: a flat data source whose items are rows and whose data properties are
-//! columns. Its rows are loaded when they are first asked for, in one pass, and stay as they are
-//! as long as the source lives.
+//! columns. Its rows are loaded when they are first asked for, in one pass. From then on they stay
+//! as they are, unless somebody follows what other programs write (Changes.h).
 class ZBSQLITE_API Source final : public zbIBrowserDataSourceSimple {
 public:
-    //! Made by the data control. `table` must outlive the source; `name` is unique in the control.
-    Source(DataCtrl& control, Table const& table, std::string name, std::size_t index);
+    //! Made by the data control. `name` is unique in it.
+    Source(DataCtrl& control, Table table, std::string name, std::size_t index);
     Source(Source const&) = delete;
     Source& operator=(Source const&) = delete;
     ~Source();
 
-    //! What the schema says about the table.
-    Table const& Declaration() const { return table_; }
+    //! What the schema says about the table. Valid as long as the source; another object after the
+    //! table was altered.
+    Table const& Declaration() const { return *table_; }
 
-    //! The columns of a row, in their order; hidden ones are left out.
+    //! The columns of a row, in their order; hidden ones are left out. After the table was altered
+    //! they are other objects; those of before go on reading the columns of their names.
     std::span<Property> Properties() { return properties_; }
     std::span<Property const> Properties() const { return properties_; }
 
     //! Why the last attempt to load failed; null if it did not, or there was none.
     Error const* LastError() const { return error_ ? &*error_ : nullptr; }
 
-    //! The loaded rows in the order in which the database gave them; empty before.
-    std::span<Row const> Rows() const;
+    //! The loaded rows in the order in which the database gave them; empty before. O(rows).
+    std::vector<Row const*> Rows() const;
 
     //! What the loaded rows take in memory, all included.
     std::size_t MemoryUsed() const;
@@ -73,7 +80,8 @@ public:
     //! The data property as a column of this source; null if it is none. It is not followed.
     Property const* AsColumn(zbIBrowserDataProperty const* property) const;
 
-    //! 0-based place in `Rows()`. Requires: a row of this source.
+    //! 0-based place in `Rows()`; of a row that has come since they were loaded, a number that no
+    //! other row has. It stays as long as the row. Requires: a row of this source.
     std::size_t IndexOf(Row const& row) const;
 
     //! The item as a row of this source, null if it is none. The item is not followed, so it may
@@ -89,7 +97,7 @@ public:
     zbIBrowserDataCtrl* GetDataCtrl() override;
     char const* GetName() const override { return name_.c_str(); }
     zbBrowserTypeId GetTypeId() override;
-    bool IsDirty() const override { return isDirty_; }
+    bool IsDirty() const override { return isDirty_ || hasNews_; }
     bool GetFolderScriptText(zbIBrowserViewItemFreeFolder* folder, zbString& out) override;
 
     //! ASCII case aside, as SQLite compares names.
@@ -113,7 +121,7 @@ public:
     //! By `Compare` of the values that make the names, so that numbers stand in their order.
     bool CompareByName(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) override;
 
-    //! By place in the list, and by source before that.
+    //! By `IndexOf`, and by source before that.
     bool CompareById(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) override;
 
     char const* GetListCaption() const override { return name_.c_str(); }
@@ -135,17 +143,50 @@ public:
     bool AcceptsEmptySelection() override { return false; }
 
 private:
+    friend class Changes;
+    friend class DataCtrl;
     friend class Row;
+    struct Difference;
     struct RowStore;
 
+    //! What the table had before it was altered. Views may still read by its properties.
+    struct Former {
+        std::unique_ptr<Table const> table;
+        std::vector<Property> properties;
+    };
+
+    std::vector<Property> MakeProperties(Table const& table);
     void ChooseName();
     bool ChooseNameByColumn(std::string_view name);
-    std::string_view FindRowidName() const;
+    static std::string_view FindRowidName(Table const& table);
+    std::vector<std::size_t> PrimaryKeyColumns() const;
     bool Load();
+    void KeepKeys();
+    std::vector<std::size_t> KeyColumns() const;
+    bool IsFollowed() const;
+    Difference FindDifference();
+    Difference DifferenceFromNothing() const;
+    Difference CompareWithFile();
+    std::byte const* Keep(std::span<std::byte const> record);
+    void PairByName(Difference& difference) const;
+    void NoteCompared();
+    std::vector<Row*> Apply(Difference& difference);
+    void ForgetRemoved();
+    void AddDirtyRows(std::set<zbIBrowserDataItem*>& out) const;
+    void AddRemovedRows(std::set<zbIBrowserDataItem*>& out) const;
+    void Alter(Table table);
+    std::vector<std::size_t> OldPlaces(std::vector<Property> const& properties,
+                                       bool hasRowid) const;
+    void RenewName(std::string const& nameColumn);
+    void Leave();
     std::unique_ptr<RowStore> ReadRows();
     std::string LoadQuery() const;
+    static void ReadValues(detail::Statement const& query, std::span<Value> values);
+    std::size_t SizeOfRecord(std::span<Value const> values, std::size_t rowNumber) const;
+    std::string Where() const;
     std::string Place() const;
     std::size_t RecordColumns() const;
+    bool IsRowDirty(Row const& row) const;
     Value ReadValue(std::byte const* record, std::size_t column) const;
     std::size_t NameParts() const;
     Value NamePart(Row const& row, std::size_t part) const;
@@ -157,18 +198,23 @@ private:
                               Property const* propertyOfB, int& cmp);
 
     DataCtrl& control_;
-    Table const& table_;
+    std::unique_ptr<Table const> table_; // Never null.
     std::string name_;
     std::size_t index_;
     std::vector<Property> properties_;
+    std::vector<Former> former_;
     std::vector<std::size_t> nameColumns_;
+    bool isNameGiven_ = false;
     std::unique_ptr<RowName> rowName_;       // Never null.
     std::string_view rowidName_;             // Literal; empty if the rowid is not needed.
     Property const* sortProperty_ = nullptr; // Not owned, may be null.
     std::unique_ptr<RowStore> store_;        // Null until loaded.
     std::optional<Error> error_;
     bool isDirty_ = false;
+    bool hasNews_ = false; // Views are being told of changes.
     bool isLoading_ = false;
+    bool keepsKeys_ = false; // Rows are told apart by key, for which they keep the rowid.
+    bool isGone_ = false;    // The table has gone.
 };
 
 } // namespace zbsqlite

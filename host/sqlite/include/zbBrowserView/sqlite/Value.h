@@ -15,7 +15,7 @@ namespace zbsqlite {
 enum class ValueKind : std::uint8_t { Null, Integer, Real, Text, Blob };
 
 //! A value with the type that is stored, which need not be the type that its column declares.
-//! It refers to the row's bytes and copies none: it is valid as long as the row.
+//! It refers to the row's bytes and copies none; see `Row::GetValue` for how long it is valid.
 struct ZBSQLITE_API Value {
     ValueKind kind = ValueKind::Null;
     std::int64_t integer = 0; //!< `Integer` only.
