@@ -8,7 +8,7 @@
 # Tools as command:package; libraries as packages.
 setup_tools_run=(cmake:cmake ninja:ninja-build c++:g++ pkg-config:pkg-config)
 setup_libraries_run=(libsqlite3-dev libcli11-dev nlohmann-json3-dev libutf8proc-dev)
-setup_tools_test=(g++:g++ sqlite3:sqlite3)
+setup_tools_test=(g++:g++ sqlite3:sqlite3 python3:python3)
 setup_libraries_test=(libgtest-dev libgmock-dev)
 setup_tools_ci=(clang++:clang clang-tidy:clang-tidy clang-format:clang-format
     readelf:binutils nm:binutils)

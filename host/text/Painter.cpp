@@ -66,7 +66,7 @@ Painter::Painter(zbIBrowserView const& view, RowReader const& rows)
     view.GetColumns(columns);
     columns_.reserve(columns.size());
     for (auto* const column : columns)
-        columns_.push_back({.column = column, .elements = {}});
+        columns_.push_back({.column = column, .isIcon = column->IsIconColumn(), .elements = {}});
 }
 
 std::vector<Painter::Element> const& Painter::ElementsOf(zbIBrowserViewItem& item,
@@ -84,7 +84,7 @@ std::vector<Painter::Element> const& Painter::ElementsOf(zbIBrowserViewItem& ite
     column.style = style;
     column.elements.clear();
     for (auto* const element : elements) {
-        auto const isIcon = column.column->IsIconColumn() || element->GetName() == kIconElement;
+        auto const isIcon = column.isIcon || element->GetName() == kIconElement;
         column.elements.push_back({element, isIcon ? Part::Icon : Part::Text});
     }
     return column.elements;
@@ -133,6 +133,7 @@ Value Painter::ReadText(zbIBrowserViewProperty& property, zbIBrowserViewItem& it
         variant_ = zbVariant();
         return property.GetValue(&item, variant_) ? ValueOf(variant_) : Value{};
     }
+    text_.clear(); // A property may answer true and leave the text as it was.
     return property.GetStringValue(&item, text_) ? Value::OfText(text_) : Value{};
 }
 

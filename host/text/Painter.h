@@ -37,13 +37,15 @@ enum class Part : std::uint8_t { Text, Icon };
 //! the last style. It clears the style's pending mark when it reads them; a style that changes is
 //! pending again.
 //!
-//! The columns are those that the view has when the painter is made, the default column first.
-//! Requires: the view and its columns outlive the painter. It works for both generations.
+//! The columns are those that the view has when the painter is made, the default column first; one
+//! that the view has no more shows nothing. Requires: the view outlives the painter. It works for
+//! both generations.
 class Painter {
 public:
     Painter(zbIBrowserView const& view, RowReader const& rows);
 
     std::size_t GetColumnCount() const { return columns_.size(); }
+    //! Requires: the view still has it.
     zbIBrowserViewColumn& GetColumn(std::size_t column) const { return *columns_[column].column; }
 
     //! A cell. What is connected to a property with typed values keeps its type (so that a script
@@ -54,7 +56,8 @@ public:
     //! How the text of a cell looks; of several elements, the first.
     Look GetLook(zbIBrowserViewItem& item, std::size_t column);
 
-    //! Whether a column has anything to show for the rows of a source.
+    //! Whether a column has anything to show for the rows of a source: whether a view property of
+    //! one of its elements is connected for it. Requires: the view still has the column.
     bool HasCells(zbIBrowserDataSourceSimple& source, std::size_t column) const;
 
     //! By which column the view is sorted.
@@ -66,7 +69,8 @@ private:
         Part part;
     };
     struct Column {
-        zbIBrowserViewColumn* column;
+        zbIBrowserViewColumn* column; // Not owned; a slot may delete it while it is painted.
+        bool isIcon;
         zbIBrowserStyle* style = nullptr; // That of `elements`; null: none was read.
         std::vector<Element> elements;
     };

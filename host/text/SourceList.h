@@ -24,13 +24,14 @@ public:
 
     zbIBrowserDataSourceSimple const* GetSource() const { return &source_; }
 
-    void Add(zbIBrowserViewItem& item, zbIBrowserDataItemSimple& row, std::size_t rowLimit) {
-        ++total_;
-        if (rowCount_ == rowLimit)
-            return;
+    //! Takes a row behind the others.
+    void Add(zbIBrowserViewItem& item, zbIBrowserDataItemSimple& row) {
         Keep(item, row);
         ++rowCount_;
     }
+
+    //! How many rows there are, with those that were not added.
+    void SetTotal(std::size_t total) { total_ = total; }
 
     std::string const& GetName() const override { return name_; }
     std::string const& GetFault() const override { return fault_; }
@@ -52,6 +53,8 @@ private:
     std::size_t total_ = 0;
     std::size_t rowCount_ = 0;
 };
+
+using SourceLists = std::vector<std::unique_ptr<SourceList>>;
 
 //! Shows the source's own columns in their order, whatever columns the view has.
 class PlainList final : public SourceList {

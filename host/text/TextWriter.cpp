@@ -60,6 +60,8 @@ void TextWriter::WriteMore(std::string_view prefix, List const& list) {
 
 void TextWriter::WriteList(List const& list) {
     WriteName({}, list.GetName(), palette_.title, CountNote(list), palette_.faint);
+    if (list.GetColumns().empty())
+        return;
     TextTable table(output_, list, style_, {}, 0, kNoLimit);
     table.WriteHeader();
     table.WriteRule();
@@ -78,7 +80,7 @@ void TextWriter::WriteLists(std::vector<std::unique_ptr<List>> const& lists) {
 }
 
 void TextWriter::WriteSketch(List const& list, std::string const& prefix) {
-    if (list.GetRowCount() == 0)
+    if (list.GetRowCount() == 0 || list.GetColumns().empty())
         return;
     TextTable table(output_, list, style_, prefix, DisplayWidth(prefix), kSketchCell);
     table.WriteHeader();

@@ -8,6 +8,8 @@
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 #include <utility>
 
 namespace zbtext {
@@ -20,7 +22,7 @@ using Folders = std::vector<zbIBrowserViewItemFreeFolder*>;
 //! nearly always the right one.
 class Dealer {
 public:
-    Dealer(std::vector<std::unique_ptr<SourceList>> const& lists, std::size_t rowLimit)
+    Dealer(SourceLists const& lists, std::size_t rowLimit)
         : lists_(lists)
         , rowLimit_(rowLimit) {}
 
@@ -28,8 +30,12 @@ public:
         auto* const row = item.GetDataItemSimple();
         if (row == nullptr)
             return;
-        if (auto* const list = FindList(row->GetDataSource()))
-            list->Add(item, *row, rowLimit_);
+        auto* const list = FindList(row->GetDataSource());
+        if (list == nullptr)
+            return;
+        list->SetTotal(list->GetTotal() + 1);
+        if (list->GetRowCount() < rowLimit_)
+            list->Add(item, *row);
     }
 
 private:
@@ -43,10 +49,25 @@ private:
         return last_;
     }
 
-    std::vector<std::unique_ptr<SourceList>> const& lists_;
+    SourceLists const& lists_;
     std::size_t rowLimit_;
     SourceList* last_ = nullptr;
 };
+
+//! All rows are the list's, so that those beyond the limit need not be looked at. Folders stand
+//! before or behind them.
+void Fill(SourceList& list, std::vector<zbIBrowserViewItem*> const& items, std::size_t rowLimit) {
+    auto const isFolder = [](zbIBrowserViewItem const* item) { return item->IsFreeFolder(); };
+    auto const first = std::find_if_not(items.begin(), items.end(), isFolder);
+    auto const last =
+        std::find_if_not(items.rbegin(), std::make_reverse_iterator(first), isFolder).base();
+    auto const total = static_cast<std::size_t>(last - first);
+    list.SetTotal(total);
+    for (auto* const item : std::span(first, std::min(total, rowLimit))) {
+        if (auto* const row = item->GetDataItemSimple())
+            list.Add(*item, *row);
+    }
+}
 
 Folders ChildFolders(zbIBrowserViewItemFreeFolder& folder) {
     Folders children;
@@ -75,10 +96,14 @@ std::unique_ptr<SourceList> ViewReader::MakeList(zbIBrowserDataSourceSimple& sou
     return std::make_unique<PaintedList>(source, rows_, painter_, paint_);
 }
 
-void ViewReader::Deal(zbIBrowserViewItemFreeFolder const& folder, Lists const& lists) const {
+void ViewReader::Deal(zbIBrowserViewItemFreeFolder const& folder, SourceLists const& lists) const {
     std::vector<zbIBrowserViewItem*> items;
     // A folder that has lists stands in an old view.
     static_cast<zbBrowserView const&>(view_).GetChildren(items, &folder);
+    if (lists.size() == 1) {
+        Fill(*lists.front(), items, rowLimit_);
+        return;
+    }
     Dealer dealer(lists, rowLimit_);
     for (auto* const item : items)
         dealer.Deal(*item);
@@ -88,7 +113,7 @@ std::vector<std::unique_ptr<List>>
 ViewReader::ReadLists(zbIBrowserViewItemFreeFolder& folder) const {
     std::vector<zbIBrowserDataSourceSimple*> sources;
     folder.GetLists(sources);
-    Lists lists;
+    SourceLists lists;
     lists.reserve(sources.size());
     for (auto* const source : sources)
         lists.push_back(MakeList(*source));

@@ -33,13 +33,11 @@ public:
     Folder ReadView() const;
 
 private:
-    using Lists = std::vector<std::unique_ptr<SourceList>>;
-
     Folder ReadFolder(zbIBrowserViewItemFreeFolder& folder) const;
     void ReadName(zbIBrowserViewItemFreeFolder& folder, Folder& result) const;
     std::vector<std::unique_ptr<List>> ReadLists(zbIBrowserViewItemFreeFolder& folder) const;
     std::unique_ptr<SourceList> MakeList(zbIBrowserDataSourceSimple& source) const;
-    void Deal(zbIBrowserViewItemFreeFolder const& folder, Lists const& lists) const;
+    void Deal(zbIBrowserViewItemFreeFolder const& folder, SourceLists const& lists) const;
 
     zbIBrowserView const& view_;
     RowReader const& rows_;

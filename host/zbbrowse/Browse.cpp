@@ -91,6 +91,8 @@ int Show(Options const& options, Interrupt const& interrupt) {
         output.Finish();
         if (status == 0 || isPicture)
             file.Commit();
+        if (options.newGeneration)
+            Complain("a view of the new generation has no lists yet: only its folders are shown");
         return status;
     } catch (zbtext::OutputError const& error) {
         throw Complaint(file.GetName() + ": " + error.what());

@@ -23,10 +23,13 @@ The folders asked for stand in place of those for tables and views.
 
 Columns are those of the lists that are shown, in any case; a list shows those that
 it has. --columns all shows all; a backslash makes \all a column of that name, and
-takes the meaning from a comma. --sort takes the last :asc or :desc for the direction,
-so a column whose name ends so needs one more. Rows that tie stand by name, then as
-they come; :desc is :asc read backwards. "name" is the rows' name where no list has a
-column of that name. With --name, --icon or a sort by the rows' name, text and CSV
+takes the meaning from a comma.
+
+--sort takes the last :asc or :desc for the direction, so a column whose name ends so
+needs one more. Null comes first, then numbers by size, text without regard to ASCII
+case, blobs. Rows that tie, or whose list does not have the column, stand by name, then
+as they come; :desc is :asc read backwards. "name" is the rows' name where no list has
+a column of that name. With --name, --icon or a sort by the rows' name, text and CSV
 show the name, too.
 
 Text is cut to the width of the terminal, and not at all when it goes elsewhere.

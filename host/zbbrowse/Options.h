@@ -46,9 +46,8 @@ struct Options {
 };
 
 //! Reads the command line. Nothing is given back where the program has done all that was asked of
-//! it
-//! (`--help`, `--version`) or can do nothing (a mistake, told on standard error); `status` is the
-//! exit status then.
+//! it (`--help`, `--version`) or can do nothing (a mistake, told on standard error); `status` is
+//! the exit status then.
 std::optional<Options> ReadOptions(int argc, char const* const* argv, int& status);
 
 //! Reads `PATH=NAME[,NAME...]`, where a backslash takes the meaning from the character behind it.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace zbbrowse {
@@ -61,6 +62,8 @@ std::vector<std::string> FindNearest(std::string_view typed,
     auto const wanted = Folded(typed);
     std::vector<std::pair<std::size_t, std::string>> near;
     for (auto const& name : names) {
+        if (name.empty())
+            continue; // It could not be typed.
         auto const distance = Distance(wanted, Folded(name));
         if (distance <= FarFrom(wanted))
             near.emplace_back(distance, name);
@@ -73,7 +76,8 @@ std::vector<std::string> FindNearest(std::string_view typed,
     for (auto const& entry : near)
         result.push_back(entry.second);
     if (result.empty())
-        result = names;
+        std::copy_if(names.begin(), names.end(), std::back_inserter(result),
+                     [](auto const& name) { return !name.empty(); });
     result.resize(std::min(result.size(), kMost));
     return result;
 }

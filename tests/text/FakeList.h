@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -36,6 +37,23 @@ public:
         return *this;
     }
 
+    FakeList& SortedBy(std::size_t column, bool ascending) {
+        sortMark_ = {column, ascending};
+        return *this;
+    }
+
+    //! Gives each cell of a column a look.
+    FakeList& WithLook(std::size_t column, zbtext::Look look) {
+        looks_[column] = look;
+        return *this;
+    }
+
+    //! Gives each row an icon.
+    FakeList& WithIcon(std::string icon) {
+        icon_ = std::move(icon);
+        return *this;
+    }
+
     std::string const& GetName() const override { return name_; }
     std::string const& GetFault() const override { return fault_; }
     std::vector<std::string> const& GetColumns() const override { return columns_; }
@@ -51,12 +69,23 @@ public:
         return rows_[row][column];
     }
 
+    bool HasIcons() const override { return icon_.has_value(); }
+    Value GetIcon(std::size_t /*row*/) const override { return Value::OfText(*icon_); }
+    std::optional<zbtext::SortMark> GetSortMark() const override { return sortMark_; }
+    zbtext::Look GetLook(std::size_t /*row*/, std::size_t column) const override {
+        auto const found = looks_.find(column);
+        return found == looks_.end() ? zbtext::Look{} : found->second;
+    }
+
 private:
     std::string name_;
     std::vector<std::string> columns_;
     std::vector<std::vector<Value>> rows_;
     std::size_t total_;
     std::string fault_;
+    std::optional<std::string> icon_;
+    std::optional<zbtext::SortMark> sortMark_;
+    std::map<std::size_t, zbtext::Look> looks_;
 };
 
 using Lists = std::vector<std::unique_ptr<zbtext::List>>;

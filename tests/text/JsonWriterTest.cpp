@@ -99,6 +99,13 @@ TEST(JsonList, ColumnsKeepTheirOrder) {
     EXPECT_EQ(keys, (std::vector<std::string>{"name", "id", "zeta", "alpha"}));
 }
 
+TEST(JsonList, TheIconStandsBehindTheName) {
+    FakeList list("part", {"n"}, {{Text("bolt")}});
+
+    EXPECT_EQ(Written<zbtext::JsonWriter>(MakeLists(list.WithIcon("/screw"))),
+              "[\n{\"name\":\"bolt\",\"icon\":\"/screw\",\"columns\":{\"n\":\"bolt\"}}\n]\n");
+}
+
 TEST(JsonList, WithoutRowsIsAnEmptyArray) {
     EXPECT_EQ(Written<JsonWriter>(MakeLists(FakeList("part", {"a"}))), "[]\n");
 }

@@ -151,6 +151,33 @@ TEST(TextTable, WithColoursTheHeaderAndNullsAreMarked) {
     EXPECT_EQ(Table(list, {.width = 40, .colour = true}), "\x1b[4ma\x1b[0m\n\x1b[2mNULL\x1b[0m\n");
 }
 
+TEST(TextTable, TheHeaderOfTheSortedColumnTellsTheDirection) {
+    FakeList list("part", {"name", "n"}, {{Text("nut"), Number(1)}});
+
+    EXPECT_EQ(Table(list.SortedBy(1, true)), "name  n ▲\n"
+                                             "nut     1\n");
+    EXPECT_EQ(Table(list.SortedBy(0, false)), "name ▼  n\n"
+                                              "nut     1\n");
+}
+
+TEST(TextTable, TheDirectionStaysWhereTheHeaderIsCut) {
+    FakeList list("part", {"a rather long name"}, {{Number(1)}});
+
+    EXPECT_EQ(Table(list.SortedBy(0, true), {.width = 8}), "a rat… ▲\n"
+                                                           "       1\n");
+}
+
+TEST(TextTable, WithColoursBoldAndItalicShow) {
+    FakeList list("part", {"a", "b", "c"}, {{Text("x"), Text("y"), Text("z")}});
+    list.WithLook(0, {.bold = true}).WithLook(1, {.italic = true});
+    list.WithLook(2, {.bold = true, .italic = true});
+
+    auto const table = Table(list, {.width = 40, .colour = true});
+
+    EXPECT_NE(table.find("\x1b[1mx\x1b[0m  \x1b[3my\x1b[0m  \x1b[1;3mz\x1b[0m"), std::string::npos);
+    EXPECT_EQ(Table(list), "a  b  c\nx  y  z\n");
+}
+
 TEST(TextTable, MeasuringStopsWhenToldTo) {
     FakeList const list("part", {"a"}, {{Number(1)}});
     zbtext::StringSink sink;

@@ -35,6 +35,12 @@ TEST(TextList, SeveralStandApart) {
     EXPECT_EQ(text, "a (0)\nx\n─\n\nb (0)\ny\n─\n");
 }
 
+TEST(TextList, WithoutColumnsIsItsTitleAlone) {
+    FakeList const rows("part", {}, {{Number(1)}, {Number(2)}});
+
+    EXPECT_EQ(Written<TextWriter>(MakeLists(rows), TextStyle{}), "part (2)\n");
+}
+
 zbtext::Folder SomeView() {
     zbtext::Folder root{"sample", {}, {}};
     root.folders.push_back(

@@ -46,6 +46,12 @@ TEST_F(OptionsTest, AFileAloneTakesTheDefaults) {
     EXPECT_FALSE(options->limit);
     EXPECT_EQ(options->format, Format::Text);
     EXPECT_EQ(options->output, "");
+    EXPECT_FALSE(options->columns);
+    EXPECT_FALSE(options->sort);
+    EXPECT_FALSE(options->name);
+    EXPECT_FALSE(options->bold);
+    EXPECT_FALSE(options->icon);
+    EXPECT_FALSE(options->newGeneration);
 }
 
 TEST_F(OptionsTest, TheFileMayStandAnywhere) {
@@ -86,6 +92,59 @@ TEST_F(OptionsTest, ViewAndOutputAreTaken) {
     EXPECT_EQ(options->output, "x.csv");
 }
 
+TEST_F(OptionsTest, WhatRowsShowIsTaken) {
+    auto const options = Read({"a.db", "--columns", "x,y", "--sort", "y:desc", "--name", "x",
+                               "--bold", "b", "--icon", "--generation", "old"});
+
+    EXPECT_FALSE(options->columns->all);
+    EXPECT_EQ(options->columns->names, (Names{"x", "y"}));
+    EXPECT_EQ(options->sort->column, "y");
+    EXPECT_FALSE(options->sort->ascending);
+    EXPECT_EQ(options->name, "x");
+    EXPECT_EQ(options->bold, "b");
+    EXPECT_TRUE(options->icon);
+    EXPECT_FALSE(options->newGeneration);
+}
+
+TEST_F(OptionsTest, AllColumnsAreAWordUnlessItIsEscaped) {
+    EXPECT_TRUE(Read({"a.db", "--columns", "all"})->columns->all);
+    EXPECT_EQ(Read({"a.db", "--columns", "\\all"})->columns->names, (Names{"all"}));
+    EXPECT_EQ(Read({"a.db", "--columns", "all,x"})->columns->names, (Names{"all", "x"}));
+    EXPECT_EQ(Read({"a.db", "--columns", "a\\,b,c"})->columns->names, (Names{"a,b", "c"}));
+}
+
+TEST_F(OptionsTest, OnlyTheLastDirectionOfASortIsOne) {
+    auto const read = [this](char const* text) {
+        auto const sort = Read({"a.db", "--sort", text})->sort;
+        return sort->column + (sort->ascending ? " up" : " down");
+    };
+    EXPECT_EQ(read("x"), "x up");
+    EXPECT_EQ(read("x:asc"), "x up");
+    EXPECT_EQ(read("x:desc"), "x down");
+    EXPECT_EQ(read("x:desc:asc"), "x:desc up");
+    EXPECT_EQ(read("x:asc:desc"), "x:asc down");
+    EXPECT_EQ(read("x:down"), "x:down up");
+    EXPECT_EQ(read("desc"), "desc up");
+}
+
+TEST_F(OptionsTest, ColumnsWithoutANameAreRefused) {
+    for (char const* const text : {"", ",", "a,", ",a", "a,,b", "a\\"})
+        ExpectRefused({"a.db", (std::string("--columns=") + text).c_str()}, "--columns");
+    for (char const* const text : {":desc", ":asc"})
+        ExpectRefused({"a.db", "--sort", text}, "--sort");
+}
+
+TEST_F(OptionsTest, ANewViewMayShowIcons) {
+    auto const options = Read({"a.db", "--generation", "new", "--icon"});
+
+    EXPECT_TRUE(options->newGeneration);
+    EXPECT_TRUE(options->icon);
+}
+
+TEST_F(OptionsTest, AGenerationIsOldOrNew) {
+    ExpectRefused({"a.db", "--generation", "newer"}, "--generation newer: not old or new");
+}
+
 TEST_F(OptionsTest, MistakesAreToldInOneLine) {
     ExpectRefused({}, "FILE");
     ExpectRefused({"a.db", "b.db"}, "b.db");
@@ -106,8 +165,9 @@ TEST_F(OptionsTest, HelpNamesEachOptionAndStops) {
     EXPECT_FALSE(Read({"--help"}));
     EXPECT_EQ(status_, 0);
     EXPECT_EQ(errors_, "");
-    for (char const* const name : {"FILE", "--list", "--folder", "--view", "--limit", "--format",
-                                   "--output", "--help", "--version", "json", "130"})
+    for (char const* const name : {"FILE", "--list", "--folder", "--columns", "--sort", "--name",
+                                   "--icon", "--bold", "--generation", "--view", "--limit",
+                                   "--format", "--output", "--help", "--version", "json", "130"})
         EXPECT_NE(output_.find(name), std::string::npos) << name;
 }
 

@@ -43,6 +43,11 @@ TEST(Suggestion, WhereNothingIsNearTheFirstNamesAreShown) {
     EXPECT_EQ(FindNearest("zzzzzzzzzz", kNames), (Names{"part", "assembly", "supplier"}));
 }
 
+TEST(Suggestion, ANameThatIsEmptyIsNone) {
+    EXPECT_EQ(FindNearest("x", {"", "y"}), (Names{"y"}));
+    EXPECT_EQ(FindNearest("zzzzzzzzzz", {"", "part"}), (Names{"part"}));
+}
+
 TEST(Suggestion, WithoutNamesThereIsNone) {
     EXPECT_TRUE(FindNearest("part", {}).empty());
 }

@@ -90,6 +90,22 @@ TEST_F(ViewReaderTest, TheLimitBoundsTheRowsButNotTheCount) {
     EXPECT_EQ(list.GetTotal(), 3U);
 }
 
+TEST_F(ViewReaderTest, FoldersBesideAListAreNotCountedAsRows) {
+    auto* const folder = AddFolder(host_->RootFolder(), "f");
+    AddFolder(folder, "inner");
+    AddList(folder, "part");
+    for (bool const ascending : {true, false}) {
+        host_->View().SetAscendingOrder(host_->View().GetDefaultColumn(), ascending);
+
+        auto const root = Read(2);
+
+        auto const& list = *root.folders.at(0).lists.at(0);
+        EXPECT_EQ(list.GetTotal(), 3U);
+        ASSERT_EQ(list.GetRowCount(), 2U);
+        EXPECT_EQ(list.GetRowName(0).bytes, ascending ? "bolt" : "pin");
+    }
+}
+
 TEST_F(ViewReaderTest, AListMayStandInSeveralFolders) {
     AddList(AddFolder(host_->RootFolder(), "f"), "part");
     AddList(AddFolder(host_->RootFolder(), "g"), "part");
