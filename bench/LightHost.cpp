@@ -24,6 +24,17 @@ Item const& ItemOf(zbIBrowserDataItem const* item) {
     return *static_cast<Item const*>(item);
 }
 
+//! The eight bytes that begin here, in lower case, as a number that orders as the bytes do.
+std::uint64_t LowerCase(char const* text) {
+    std::uint64_t bytes = 0;
+    for (std::size_t i = 0; i < sizeof bytes; ++i)
+        bytes = bytes << 8U | static_cast<unsigned char>(text[i]);
+    constexpr std::uint64_t each = 0x0101010101010101U; // ASCII only, so no sum leaves its byte
+    auto const fromA = bytes + each * (0x80U - 'A');
+    auto const behindZ = bytes + each * (0x7fU - 'Z');
+    return bytes | ((fromA & ~behindZ & each * 0x80U) >> 2U);
+}
+
 template <class T>
 int Order(T a, T b) {
     return a < b ? -1 : static_cast<int>(b < a);
@@ -35,11 +46,22 @@ Item::Item(Source& source, std::uint32_t id, std::uint32_t names)
     : source_(source)
     , number_(static_cast<int>(Draw(std::uint64_t{id} + 1) % names))
     , id_(id) {
-    auto const drawn = Draw(~std::uint64_t{id});
+    Rename(id, names);
+}
+
+void Item::Rename(std::uint64_t lot, std::uint32_t names) {
+    auto const drawn = Draw(~lot);
     auto const& word = words[drawn % words.size()];
+    name_.fill('\0');
     auto* end = std::copy(word.begin(), word.end(), name_.data());
     *end++ = ' ';
     std::to_chars(end, name_.end() - 1, (drawn >> 8U) % (names / 7 + 1));
+}
+
+int Item::CompareName(Item const& other) const {
+    auto const rest = name_.size() - sizeof(std::uint64_t);
+    auto const first = Order(LowerCase(name_.data()), LowerCase(other.name_.data()));
+    return first != 0 ? first : Order(LowerCase(&name_[rest]), LowerCase(&other.name_[rest]));
 }
 
 zbIBrowserDataSourceSimple* Item::GetDataSource() const {
@@ -93,7 +115,7 @@ bool Source::CompareByDataProperty(zbIBrowserDataItem* a, zbIBrowserDataProperty
 
 bool Source::CompareByName(zbIBrowserDataItem* a, zbIBrowserDataItem* b, int& cmp) {
     ++comparisons;
-    cmp = StrICmp(ItemOf(a).GetName(), ItemOf(b).GetName());
+    cmp = ItemOf(a).CompareName(ItemOf(b));
     return true;
 }
 

@@ -31,13 +31,19 @@ public:
     Item(Source& source, std::uint32_t id, std::uint32_t names);
     zbIBrowserDataSourceSimple* GetDataSource() const override;
     char const* GetName() const { return name_.data(); }
+    //! Regardless of case.
+    int CompareName(Item const& other) const;
     int GetNumber() const { return number_; }
     std::uint32_t GetId() const { return id_; }
+    bool IsDirty() const override { return isDirty; }
+    //! Draws the name by another lot than the identity.
+    void Rename(std::uint64_t lot, std::uint32_t names);
 
     bool isListed = true;
+    bool isDirty = false;
 
 private:
-    std::array<char, 15> name_{};
+    std::array<char, 14> name_{}; // Filled up with zeros
     Source& source_;
     int number_;
     std::uint32_t id_;
@@ -67,6 +73,7 @@ public:
 
     Item* AddItem();
     void TakeOut(Item& item) { item.isListed = false; }
+    void Rename(Item& item) { item.Rename(item.GetId() + names_, names_); }
     //! Every item that was ever made.
     std::deque<Item>& Items() { return items_; }
     bool isDirty = false;

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+// What the data side reports and selects: the view follows.
+#include "ColumnHost.h"
+
+#include <zbBrowserView/zbIBrowserSelectionManager.h>
+#include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <random>
+
+using zbbench::ColumnHost;
+using zbbench::Item;
+using zbbench::LightHost;
+using zbbench::Source;
+
+namespace {
+
+void Sizes(benchmark::internal::Benchmark* bench) {
+    bench->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+}
+
+std::size_t Rows(benchmark::State const& state) {
+    return static_cast<std::size_t>(state.range(0));
+}
+
+//! Some items drawn at random, each once.
+std::vector<Item*> Draw(Source& source, std::size_t count) {
+    std::vector<Item*> items;
+    items.reserve(source.Items().size());
+    for (auto& item : source.Items())
+        items.push_back(&item);
+    std::shuffle(items.begin(), items.end(), std::mt19937_64(5));
+    items.resize(std::min(count, items.size()));
+    return items;
+}
+
+// Many folders
+
+//! Each folder shows the same ten items; the events are about items of another source.
+struct ManyFolders {
+    explicit ManyFolders(std::int64_t folders)
+        : host(10)
+        , other(1'000) {
+        auto& root = *host.view.GetRootFreeFolder();
+        for (std::int64_t i = 0; i < folders; ++i)
+            host.view.CreateFreeFolder(&root, "folder");
+        std::vector<zbIBrowserViewItemFreeFolder*> children;
+        root.GetChildFreeFolders(children, false, true);
+        for (auto* const folder : children)
+            host.view.CreateList(folder, &host.source, false);
+        host.view.DataSourceConnect(&other);
+        Report(other.Items().front()); // The first one makes what the folders lack
+    }
+
+    void Report(Item& item) {
+        host.controller->OnDataItemCreated(&item, false);
+        host.controller->OnDataItemSimpleUpdated(&item);
+        host.view.OnDataItemDeleted(&item);
+    }
+
+    LightHost host;
+    Source other;
+};
+
+//! Three events each: created, updated, deleted.
+void ItemThatNoFolderShows(benchmark::State& state) {
+    ManyFolders folders(state.range(0));
+    for (auto _ : state) {
+        for (auto& item : folders.other.Items())
+            folders.Report(item);
+    }
+    state.counters["per event"] = benchmark::Counter(
+        3.0 * static_cast<double>(folders.other.Items().size()),
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(ItemThatNoFolderShows)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMicrosecond);
+
+// Sorted lists
+
+constexpr std::size_t changes = 10'000;
+
+//! A sorted list, then what `prepare` answers is run and all rows are read once more.
+template <class Prepare>
+void ChangeSorted(benchmark::State& state, Prepare prepare) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto host = std::make_unique<ColumnHost>(Rows(state));
+        host->Sort(host->name);
+        auto const change = prepare(*host);
+        state.ResumeTiming();
+        change();
+        host->Read();
+        state.PauseTiming();
+        host.reset();
+        state.ResumeTiming();
+    }
+}
+
+void Create10ThousandSorted(benchmark::State& state) {
+    ChangeSorted(state, [](ColumnHost& host) {
+        std::vector<Item*> fresh(changes);
+        for (auto*& item : fresh)
+            item = host.source.AddItem();
+        return [&host, fresh] {
+            for (auto* const item : fresh)
+                host.controller->OnDataItemCreated(item, true);
+        };
+    });
+}
+BENCHMARK(Create10ThousandSorted)->Apply(Sizes)->Iterations(3);
+
+void Delete10ThousandSorted(benchmark::State& state) {
+    ChangeSorted(state, [](ColumnHost& host) {
+        auto const going = Draw(host.source, changes);
+        for (auto* const item : going)
+            host.source.TakeOut(*item);
+        return [&host, going] {
+            for (auto* const item : going)
+                host.view.OnDataItemDeleted(item);
+        };
+    });
+}
+BENCHMARK(Delete10ThousandSorted)->Apply(Sizes)->Iterations(3);
+
+std::vector<Item*> RenameOnePercent(ColumnHost& host) {
+    auto renamed = Draw(host.source, host.source.Items().size() / 100);
+    for (auto* const item : renamed)
+        host.source.Rename(*item);
+    return renamed;
+}
+
+//! One row in a hundred has another name; all are refreshed at once.
+void RenameOnePercentAtOnce(benchmark::State& state) {
+    ChangeSorted(state, [](ColumnHost& host) {
+        for (auto* const item : RenameOnePercent(host))
+            item->isDirty = true;
+        return [&host] { host.view.OnAllDirtyDataItemsRebuild(); };
+    });
+}
+BENCHMARK(RenameOnePercentAtOnce)->Apply(Sizes)->Iterations(3);
+
+void RenameOnePercentOneByOne(benchmark::State& state) {
+    ChangeSorted(state, [](ColumnHost& host) {
+        return [&host, renamed = RenameOnePercent(host)] {
+            for (auto* const item : renamed)
+                host.controller->OnDataItemSimpleUpdated(item);
+        };
+    });
+}
+BENCHMARK(RenameOnePercentOneByOne)->Apply(Sizes)->Iterations(3);
+
+// Selection
+
+//! One list, and up to 100 thousand of its items drawn at random.
+struct SelectionHost : LightHost {
+    explicit SelectionHost(std::size_t rows)
+        : LightHost(rows) {
+        Connect();
+        auto const drawn = Draw(source, 100'000);
+        wanted.assign(drawn.begin(), drawn.end());
+    }
+    void Select() { view.OnDataItemsSelected(wanted, {}, true); }
+
+    std::vector<zbIBrowserDataItemSimple*> wanted;
+};
+
+void SelectByDataItem(benchmark::State& state) {
+    SelectionHost host(Rows(state));
+    for (auto _ : state) {
+        host.Select();
+        state.PauseTiming();
+        host.view.DeselectAllViewItems();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(SelectByDataItem)->Apply(Sizes);
+
+void AskWhetherSelected(benchmark::State& state) {
+    SelectionHost host(Rows(state));
+    host.Select();
+    std::vector<zbIBrowserViewItem*> rows;
+    host.view.GetChildren(rows, host.view.GetRootFreeFolder());
+    auto& manager = *host.view.GetSelectionManager();
+    std::size_t selected = 0;
+    for (auto _ : state) {
+        selected = 0;
+        for (auto* const row : rows)
+            selected += manager.IsViewItemSelected(row) ? 1U : 0U;
+    }
+    if (selected != host.wanted.size())
+        state.SkipWithError("rows are not selected");
+}
+BENCHMARK(AskWhetherSelected)->Apply(Sizes);
+
+void ClearSelection(benchmark::State& state) {
+    SelectionHost host(Rows(state));
+    for (auto _ : state) {
+        state.PauseTiming();
+        host.Select();
+        state.ResumeTiming();
+        host.view.DeselectAllViewItems();
+    }
+}
+BENCHMARK(ClearSelection)->Apply(Sizes);
+
+} // namespace
