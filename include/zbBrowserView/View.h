@@ -30,6 +30,7 @@ class zbIBrowserDataProperty;
 
 namespace zbbrowser {
 
+class FilterHandler;
 struct PendingViewChangeInfo;
 class SortHandler;
 class ViewColumnCustom;
@@ -51,9 +52,20 @@ class NewViewContext;
 //! to expand items, and to be told that its data control goes.
 //!
 //! What works in this version: the object itself, free folders, selection, view properties,
-//! columns, styles and sorting. What a folder shows, menus, collector and view operations are not
-//! built yet; what needs them answers like a view that has no such handler: false, null, or
-//! nothing.
+//! columns, styles and sorting. A folder shows no rows yet, and there are no menus, no collector
+//! and no view operations. What would use them answers like this until then:
+//! - Rows: GetNextViewItem: null. ShowAscendants, ExpandAllItems, CollapseAllItems,
+//!   ClearDirtyForWindowItems, UpdateDirtyForWindowItems, AllDirtyDataDependentItemsRebuild:
+//!   nothing. AllDataDependentItemsDelete clears the selection, silently. Expand and Collapse test
+//!   their item only. GetDataItemsFromViewItems and GetDataSourcesFromViewItems find what an item
+//!   shows itself, which for a folder is nothing; GetDataDependentViewItems finds nothing.
+//! - Menus: CreatePopupMenu, FindPopupMenu: null. DeletePopupMenu, GetAllPopupMenus and the
+//!   FindPopupMenu that compares: false.
+//! - Collector: GetCollectorHandler: null. GetCollectorGuiMapName: "". IsBrowserCollectorOn,
+//!   IsCollectorEnable, PerformCollectorOperation: false. ResetCollector, SetCollectorEnable:
+//!   nothing.
+//! - View operations: FindViewOperation: null. CreateViewOperation: false, so that the two default
+//!   ones are missing, too. PerformVOPAttachedToGvnDOP: nothing.
 //!
 //! A fresh view has the four default properties, a default column, and a root without children.
 //!
@@ -234,6 +246,8 @@ public:
     ViewItemVirtualRoot* GetVirtualRoot() const;
     ViewColumnDefault* GetDefaultColumnPtr() const;
     SortHandler* GetSortHandler() const;
+    //! Null: this generation has no filter.
+    FilterHandler* GetFilterHandlerImpl() const;
 
     //! Stored for the host, which may store what it likes; the library never follows it. Null at
     //! first, and when the item has left the view.
@@ -254,13 +268,14 @@ public:
     //! Does nothing: default properties go with their holder.
     void DeleteDefaultViewProperties();
     void CreateDefaultColumn();
+    //! GetColumns gives null in its place.
     void DeleteDefaultColumn();
     void DeleteScriptedColumns();
     //! The default column first. No signals.
     void DeleteColumns();
     void CreateSortHandler();
     void DeleteSortHandler();
-    //! Both do nothing: this generation has no filter.
+    //! Both do nothing, see GetFilterHandlerImpl.
     void CreateFilterHandler();
     void DeleteFilterHandler();
     //! @}
@@ -423,9 +438,9 @@ private:
     bool ApplyPendingChanges(zbIBrowserViewItemFreeFolder* folder, bool immediately);
 
     zbString name_;
-    zbBrowserViewCtrl const* viewCtrl_;      // Not owned, never null
-    zbIBrowserDataCtrl* dataCtrl_ = nullptr; // Not owned, may be null
-    detail::NewViewContext* context_;        // Owned unless this is a copy
+    zbBrowserViewCtrl const* viewCtrl_;         // Not owned, never null
+    zbIBrowserDataCtrl* dataCtrl_ = nullptr;    // Not owned, may be null
+    detail::NewViewContext* context_ = nullptr; // Owned unless this is a copy
     bool sorting_ = true;
     bool italic_ = true;
     bool showEmptyFolders_ = true;

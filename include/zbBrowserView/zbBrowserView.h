@@ -26,6 +26,7 @@
 #include <cstdint>
 #include <memory>
 #include <set>
+#include <utility>
 #include <vector>
 
 class zbBrowserSelectionManager;
@@ -267,25 +268,63 @@ public:
     //! \name 4. Data events and rebuilds
     //! The controller calls these; see there for when a host reports what. Each event of the first
     //! group is dropped, not queued, when it comes from within another. If a slot or host operation
-    //! throws from within one, the guard stays set and all later ones are dropped.
+    //! throws from within one, the guard stays set and all later ones are dropped. So does the busy
+    //! mark of the folder that was at work and of those above it.
+    //!
+    //! An event reaches the folders one after the other, a folder before those in it. A busy folder
+    //! and all in it are passed over.
+    //!
+    //! Requires: the data item is there, also one that is reported deleted, and its source is the
+    //! same as long as it has rows. Null: no event.
+    //! Cost, for a flat item: the folders that show its source, each with those above it; however
+    //! many others there are, they are not looked at, except once after folders were made.
     //! \{
+
+    //! Shows a new item in each folder that lists its source. The flag is not used.
+    //! Signals, for each folder: `ViewItemCreated(row)` unless the row is there;
+    //! `ViewItemChanged(folder)`.
     void OnDataItemCreated(zbIBrowserDataItemHierarchical* const item, bool flag);
     void OnDataItemCreated(zbIBrowserDataItemSimple* const item, bool flag);
+    //! Takes out the rows of an item at once.
+    //! Signals, for each row: `ViewItemDeleted(row)`, before it goes; `ViewItemChanged(folder)` if
+    //! nothing is left to be seen in the folder. It is deselected silently.
     void OnDataItemDeleted(zbIBrowserDataItemHierarchical* const item);
     void OnDataItemDeleted(zbIBrowserDataItemSimple* const item);
+    //! Signals: `ViewItemChanged(folder)` for each row of the item, by way of the controller's
+    //! `OnViewItemChanged`. None for the rows themselves.
     void OnDataItemUpdated(zbIBrowserDataItemHierarchical* const item);
     void OnDataItemUpdated(zbIBrowserDataItemSimple* const item);
+    //! Concerns trees, whose items are not built yet.
     void OnDataItemReparented(zbIBrowserDataItemHierarchical* const item,
                               zbIBrowserDataItemHierarchical* const newParent);
+    //! Makes all rows anew, silently. Nothing is selected afterwards; the folders stay as they are.
+    //! In a folder it ends with the first list whose source does not give its items.
     void OnDataItemsRebuildAll();
 
+    //! The rows of all lists are sorted anew when they are next read, whatever the source is.
     void OnDataSourceRenumbered(zbIBrowserDataSourceSimple* source);
     void OnDataSourceRenumbered(zbIBrowserDataSourceHierarchical* source);
+
+    //! Signals: `ViewItemChanged(row)` for each row whose data item is dirty, those of a list
+    //! within a long operation. These rows get their new place when the list is next read in
+    //! sorted form.
     void OnAllDirtyDataItemsRebuild();
+
+    //! Lists whose source is dirty lose the rows of items that have gone and get those of new ones;
+    //! the other rows stay the same objects, with their place and selection. Child folders come
+    //! before their folder, and then the rows of the folder and of all below it are refreshed as by
+    //! OnAllDirtyDataItemsRebuild. No mark is taken back.
+    //! Signals, for each dirty list: those of DeleteViewItemList and CreateList, then
+    //! `ViewItemChanged` for each folder from this one up whose icon may depend on its data. For
+    //! each folder: `ViewContentChanged(view)` three times, dirty or not.
     void OnAllDirtyDataListsRebuild();
+
+    //! Signals: in a folder with a dirty list, `ViewItemChanged` for every row of the folder, once
+    //! for each such list; for each folder `ViewContentChanged(view)` three times. Then the mark of
+    //! the list is taken back, so that a further folder with the same list finds it clean.
     void RedrawAllDirtyDataLists(bool unused);
 
-    //! The bare walks: no guard.
+    //! The events above without their guard.
     void CreateDataDependentViewItems(bool silent);
     void CreateDataDependentViewItems(zbIBrowserDataItemSimple* item,
                                       std::vector<zbIBrowserViewItem*>& created,
@@ -297,7 +336,8 @@ public:
     void DeleteDataDependentViewItems(zbIBrowserDataItemHierarchical* item, bool silent);
 
     //! Deletes rows. Those that are not rows of this view, or no longer, are passed over.
-    //! Signals: `ViewItemListDeleted(items)` unless `silent`.
+    //! Signals: those of deselecting them; `ViewItemsSelected` with what is still selected;
+    //! `ViewItemListDeleted(items)` unless `silent`.
     //! `items` comes back empty.
     void DeleteViewItemList(std::vector<zbIBrowserViewItem*>& items, bool silent);
     //! \}
@@ -485,8 +525,8 @@ public:
     //! Cost: O(folders).
     void SetAllDataItemListsUnsorted();
 
-    //! The name of a data property by which the groups of a source are sorted under the default
-    //! column, before the name. "": by name. True. It takes effect with the next sort.
+    //! The name of a data property by which the rows of groups are sorted under the default column,
+    //! instead of by name. "": by name. True. It takes effect with the next sort.
     bool SetSortDefaultColumnByCustomProperty(zbString const& name);
     //! Reads that name; true. Sorts nothing.
     bool SortDefaultColumnByCustomProperty(zbString& name);
@@ -575,18 +615,27 @@ private:
     bool Collapse(zbIBrowserViewItem* item);
     void Hide(zbIBrowserViewItem* item);
     void ExpandAscendants(zbIBrowserViewItem const* item) const;
-    void DataItemsSelected(std::vector<zbIBrowserDataItemSimple*> const& simple,
+    //! For several items. `parents` may name the parents of the first of them.
+    void ExpandAscendants(std::vector<zbIBrowserViewItem*> const& items,
+                          std::vector<zbIBrowserViewItem*> const& parents) const;
+    //! Flat items by their source.
+    using ItemsBySource =
+        std::vector<std::pair<zbIBrowserDataSource const*, std::vector<zbIBrowserDataItemSimple*>>>;
+    void DataItemsSelected(ItemsBySource const& simple,
                            std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical,
                            bool clear);
-    void DataItemsDeselected(std::vector<zbIBrowserDataItemSimple*> const& simple,
+    void DataItemsDeselected(ItemsBySource const& simple,
                              std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical);
-    std::vector<zbIBrowserDataItemSimple*>
-    ConnectedItems(std::vector<zbIBrowserDataItemSimple*> const& items) const;
+    ItemsBySource ConnectedItems(std::vector<zbIBrowserDataItemSimple*> const& items) const;
     std::vector<zbIBrowserDataItemHierarchical*>
     ConnectedItems(std::vector<zbIBrowserDataItemHierarchical*> const& items, bool first) const;
+    //! The rows of these items, those of flat ones first, with their parents.
     std::vector<zbIBrowserViewItem*>
-    ItemsOf(std::vector<zbIBrowserDataItemSimple*> const& simple,
-            std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical);
+    ItemsOf(ItemsBySource const& simple,
+            std::vector<zbIBrowserDataItemHierarchical*> const& hierarchical,
+            std::vector<zbIBrowserViewItem*>& parents);
+    void AppendRowsOf(ItemsBySource const& simple, std::vector<zbIBrowserViewItem*>& found,
+                      std::vector<zbIBrowserViewItem*>& parents);
     //! Selects an item alone, or deselects it, then with `recursive` with all that stands in it.
     void SelectViewItem(zbIBrowserViewItem* item, bool select, bool recursive);
     void OnUpdateViewSelection(std::vector<zbIBrowserViewItem*> const& items, bool select,
@@ -600,8 +649,15 @@ private:
     void ReportCreated(DataItem* item, bool flag);
     template <class DataItem>
     void ReportDeleted(DataItem* item);
-    template <class DataItem>
-    void ReportUpdated(DataItem* item);
+    template <class Collect>
+    void ReportUpdated(Collect collect);
+    //! For an item that may have gone, of which the source is known.
+    void OnDataItemUpdated(zbIBrowserDataItemSimple* const item,
+                           zbIBrowserDataSourceSimple const* source);
+    //! GetDataDependentViewItems, with an item that is compared only.
+    void AppendRowsOf(zbIBrowserDataItemSimple* item, zbIBrowserDataSource const* source,
+                      std::vector<zbIBrowserViewItem*>& found,
+                      std::vector<zbIBrowserViewItem*>& parents);
     void RaiseChanged(std::vector<zbIBrowserViewItem*> const& items);
     void RefreshFolders(zbBrowserViewItemFreeFolder& top);
 

@@ -34,10 +34,12 @@ class zbIBrowserViewProperty;
 //! never opened has not made its rows yet.
 //!
 //! Ownership: the controller's. The pointer stays valid when the view goes, until the controller
-//! goes; without its view a manager is empty and answers false.
+//! goes; without its view a manager is empty, tells nobody, and what asks the view answers false.
 //!
 //! Cost: selecting, deselecting and asking for an item O(1); listing n selected items O(n) and a
-//! sort of the 64 KiB blocks of memory in which they lie.
+//! sort of the 64 KiB blocks of memory in which they lie. Old: a change also lists the data of all
+//! that is selected if anybody listens to `DataItemsGrouped` or `DataItemsSelectionSummary`, so
+//! select many items in one call.
 class ZBBROWSERVIEW_API zbIBrowserSelectionManager : public zbBrowserErrorReporter {
 public:
     //! \name Changing the selection
@@ -71,6 +73,12 @@ public:
     //! A call that makes no difference: New: ends there, silently, and GetChangedViewItems answers
     //! as before. Old: the notifiers are told without `OnSelectionFinished`, and of the signals
     //! only `ViewItemsSelected` or `ViewItemsDeselected` is raised.
+    //!
+    //! Notifiers and slots may call back. Items that leave the view meanwhile are not selected;
+    //! those that leave while the clearing is told are not told as selected either. Once the view
+    //! has gone nobody hears more.
+    //! Failure: what a notifier or slot throws passes on. Before the set changes, the selection
+    //! stays; afterwards the change stands, and what would have been told is left out.
     virtual void UpdateSelection(std::vector<zbIBrowserViewItem*> const& items, bool select,
                                  bool clear) = 0;
 
@@ -205,7 +213,7 @@ public:
     //! @{
 
     //! Old: the data item of the flat row that was dragged over last; ResetDropItem and SetDropItem
-    //! of something else leave it. New: null.
+    //! of something else leave it. Null once that row has gone and after ClearSelected. New: null.
     virtual zbIBrowserDataItemSimple* GetDropDataItemSimple() const = 0;
     //! Old: null unless it is a row of a tree. New: null.
     virtual zbIBrowserDataItemHierarchical* GetDropDataItemHierarchical() const = 0;

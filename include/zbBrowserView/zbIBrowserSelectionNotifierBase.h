@@ -11,12 +11,13 @@ class zbIBrowserViewItem;
 
 //! A listener of one selection manager, see zbIBrowserSelectionManager::AddNotifier. Unlike the
 //! slots of the selection signals it hears of one view only, of deselection by a clearing too, and
-//! before the signals.
+//! before `ViewItemsSelected` and `ViewItemsDeselected`.
 //!
 //! All operations run within the change that they tell about. They may call back: select, delete
 //! items or the view, add and remove notifiers. A change that a notifier makes is told to all
-//! notifiers, itself included. An exception passes to whoever made the change, which stands; the
-//! notifiers after it and the signals are left out.
+//! notifiers, itself included. An exception passes to whoever made the change; the notifiers after
+//! it and the signals are left out. The change stands, but for a clearing, which does not take
+//! place.
 class ZBBROWSERVIEW_API zbIBrowserSelectionNotifierBase {
 public:
     //! These items were selected, or deselected. Among them may be some that were so already.

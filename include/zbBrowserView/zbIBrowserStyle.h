@@ -30,7 +30,7 @@ class ZBBROWSERVIEW_API zbIBrowserStyle : public zbBrowserErrorReporter {
 public:
     virtual char const* GetName() const = 0;
 
-    //! The column for which the style was made. Null: when the column has gone.
+    //! The column that has the style, or had it last. Null: when the column has gone.
     virtual zbIBrowserViewColumn* GetColumn() const = 0;
 
     //! Replaces `out` by the elements in order; true.
@@ -48,7 +48,7 @@ public:
 
     //! Adds an element behind the others. Names need not be unique.
     //! Signals: `StyleDeleted(style)` before that, unless the style is pending.
-    //! Null names and titles count as empty. Null: if a slot has deleted the style.
+    //! Null names and titles count as empty. Null: if a slot has deleted the style or the view.
     virtual zbIBrowserStyleElement* CreateElement(char const* name, char const* title) = 0;
 
     virtual void SetPending(bool pending) = 0;

@@ -18,7 +18,7 @@ class zbIBrowserViewProperty;
 //! without a signal.
 class ZBBROWSERVIEW_API zbIBrowserStyleElement {
 public:
-    //! The style that it belongs to or last belonged to.
+    //! The style that it belongs to or last belonged to. Null: when the host has deleted that one.
     virtual zbIBrowserStyle* GetStyle() const = 0;
 
     //! Texts given at creation; the name is looked up regardless of case. Never null.
@@ -34,6 +34,8 @@ public:
     virtual zbIBrowserViewProperty* GetViewProperty() const = 0;
 
     //! Binds the element; true. Null: takes the binding away.
+    //! Requires: a property of the same view. One of another view is bound as well, but nobody
+    //! takes it away when it is deleted or its view goes.
     virtual bool SetViewProperty(zbIBrowserViewProperty* property) = 0;
 
     //! What the view property reads for items of that source. Null: for null, without a view

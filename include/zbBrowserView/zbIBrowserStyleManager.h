@@ -34,7 +34,7 @@ public:
     virtual zbIBrowserViewColumn* GetColumn() const = 0;
 
     //! Adds an empty style and makes it current. No signal.
-    //! Failure: false, with an error text, if the name is taken; false for a null text.
+    //! Failure: false, with an error text, if the name is taken; false for an empty name.
     virtual bool CreateStyle(zbString const& name) = 0;
 
     //! Old: as DeleteStyle, with two differences: `StyleDeleted` comes after the style has left the
@@ -84,8 +84,8 @@ public:
     //! In the default column: the default style, but for a row of a source for which its free
     //! folder has styles of its own the last of these in the order of their addresses. In any other
     //! column: the current style for rows and for free folders with `GetFreeFolderStyle`, null for
-    //! other folders and groups. Null: for null. Signals: `StyleCreated(style)` if it is pending,
-    //! at each call.
+    //! other folders and groups. Null: for null, and if a slot has deleted the style or the view.
+    //! Signals: `StyleCreated(style)` if it is pending, at each call.
     virtual zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewItem* item) = 0;
 
     //! Takes an element out of each style that has it, see zbIBrowserStyle::DeleteElement; true

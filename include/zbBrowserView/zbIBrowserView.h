@@ -121,7 +121,7 @@ public:
 
     //! Sets the data control.
     //! Null: disconnects all sources with their content, see DataSourceDisconnectAll. Exchanging
-    //! one control for another disconnects nothing.
+    //! one control for another disconnects nothing. New: the control is stored, and that is all.
     virtual void SetDataCtrl(zbIBrowserDataCtrl* const ctrl) = 0;
 
     //! Null: until one is set.
@@ -151,8 +151,9 @@ public:
                                               zbIBrowserViewItem* const item) const = 0;
 
     //! Gives a free folder the current style of the default column, see
-    //! zbIBrowserStyleManager::AddFolderStyle. False: for an item that is null or of another view.
-    //! True for any other, also if the item is no folder or there is no style to give.
+    //! zbIBrowserStyleManager::AddFolderStyle. False: for an item that is null or of another view,
+    //! and without a default column. True for any other, also if the item is no folder or there is
+    //! no style to give.
     virtual bool SetViewItemStyle(zbIBrowserViewItem* const item) = 0;
 
     virtual bool GetFreeFolderGroupLeafs(zbIBrowserViewItemFreeFolder* folder) const = 0;
@@ -161,9 +162,9 @@ public:
     //! Whether the element's text is bold for that item, in `out`. A free folder answers for itself
     //! (New: never bold), a group of an old view is not bold, and a row of an old view is bold if
     //! "default_bold_text_prop" says so.
-    //! False, and `out` untouched: for a null argument, an element of another view, a row or group
-    //! of a new view, and where the property has no value. True, and `out` untouched, for a row
-    //! while the data type of the property is not 1.
+    //! False, and `out` untouched: for a null argument, an element of another view or of a column
+    //! that has gone, a row or group of a new view, and where the property has no value. True, and
+    //! `out` untouched, for a row while the data type of the property is not 1.
     virtual bool IsTextBold(zbIBrowserViewItem* const item, zbIBrowserStyleElement* const element,
                             bool& out) const = 0;
 
@@ -337,13 +338,14 @@ public:
     //! True at first.
     virtual bool GetShowEmptyFoldersFlag() const = 0;
 
-    //! Whether the item is to be shown as far as ShowEmptyFolders decides about it.
+    //! Whether the item is to be shown as far as ShowEmptyFolders decides about it. New: true.
     virtual bool IsEmptyFolderCanBeShown(zbIBrowserViewItem* const item) = 0;
 
-    //! Makes a child folder.
+    //! Makes a child folder behind the others.
+    //! Signals: `ViewItemCreated(child)`, `FreeFolderCreated(parent)`, `ViewItemChanged(parent)`.
     //! Old: folders of one parent may have the same name. False for a parent that is not of the
     //! view. New: false while the view is locked; throws a `char const*` if the parent has a folder
-    //! of that name already.
+    //! of that name already, regardless of case.
     virtual bool CreateFreeFolder(zbIBrowserViewItemFreeFolder const* parent,
                                   zbString const& name) = 0;
 
@@ -357,7 +359,8 @@ public:
 
     virtual bool SetFreeFolderStyle(zbIBrowserViewItemFreeFolder* folder, bool style) = 0;
 
-    //! Signals: `FreeFolderStyleChanged`, also when that changes nothing.
+    //! Signals: `FreeFolderStyleChanged(folder, true)`, also when that changes nothing. New: the
+    //! flag is not stored.
     virtual bool SetFreeFolderShowEmptyContainers(zbIBrowserViewItemFreeFolder* folder,
                                                   bool show) = 0;
 
@@ -390,7 +393,8 @@ public:
     virtual bool CreateComboBoxColumn(char const* name, char const* title) = 0;
 
     //! Deletes a scripted column, and ends the sorting, whichever column the view is sorted by.
-    //! Null: false. A column that is not one of the view's: true.
+    //! Null: false. A column that is not one of the view's: true. Old: false if a slot left an
+    //! error text with the view; the same goes for ShowScriptedColumn.
     //! Signals: `ColumnSortChanged(sorted column, false, false)` if the view is sorted, then
     //! `ColumnDeleted(column)`, when GetColumns leaves it out and FindColumn still finds it.
     virtual bool DeleteScriptedColumn(zbIBrowserViewColumn* column) = 0;
@@ -398,11 +402,13 @@ public:
     //! Shows or hides a scripted column. Hiding ends the sorting, whichever column the view is
     //! sorted by. Null: false. A column that is not one of the view's: true.
     //! Signals: when hiding, the one of the sorting as above; `ColumnShown(column)`;
-    //! `ColumnsChanged`. Old: also without a change. New: none without a change.
+    //! `ColumnsChanged`. Old: also without a change, and the sorting ends too. New: without a
+    //! change none, and the view stays sorted.
     virtual bool ShowScriptedColumn(zbIBrowserViewColumn* const column, bool show) = 0;
 
-    //! Takes an element out of its style. False: for null and an element of another view.
-    //! New: deletes nothing and answers true.
+    //! Takes an element out of its style. False: for null and an element of another view or of a
+    //! column that has gone. True for any other, also if it stays: see
+    //! zbIBrowserStyleManager::DeleteStyleElement. New: deletes nothing and answers true.
     virtual bool DeleteStyleElement(zbIBrowserStyleElement* element) = 0;
     //! @}
 
@@ -483,7 +489,8 @@ public:
     //! another column was sorted; `ColumnSortChanged(column, true, ascending)`, or Old:
     //! `ColumnSortRepeated(column, true, ascending)` if it is sorted that way already;
     //! `ViewChanged(view)`; Old: `SortChanging(false)`.
-    //! False: for a column that is null or not of this view.
+    //! False: for a column that is null or not of this view, also when a slot makes it so; what
+    //! comes after that signal is not raised then.
     virtual bool SetAscendingOrder(zbIBrowserViewColumn* const column, bool ascending) = 0;
 
     //! Sets what GetItalic tells, and tells the columns, see zbIBrowserViewColumn::SetItalic; true.

@@ -130,8 +130,9 @@ public:
                                    bool recursive) const = 0;
 
     //! Gives the child folders, hidden ones included.
-    //! In order of creation, unless `sorted` is true and GetKeepChildrenInOrder false: then sorted,
-    //! backwards when `ascending` is false. Sorting takes effect on the folder, hence not const.
+    //! In order of creation, unless `sorted` is true and GetKeepChildrenInOrder false: then by name
+    //! regardless of case, digits being bytes like others, and backwards when `ascending` is false.
+    //! The folder keeps that order until a child folder comes or goes, hence not const.
     virtual bool GetChildFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& out, bool sorted,
                                      bool ascending) = 0;
 

@@ -46,6 +46,13 @@ class zbIBrowserViewItem;
 //!   hit" unless the group stands in its folder, and no folder holds groups yet. A dependent folder
 //!   answers true and leaves `out` as it is.
 //!
+//! Requires: an item that is handed in still exists. It does while its deletion is told, and has
+//! its values then.
+//!
+//! A script or a host object that is asked here may change or delete the property, its connections
+//! or the view. What it returns is still answered; but once the view has gone before a data
+//! property was reached, none is called, and the answer is false.
+//!
 //! Ownership: the view's, also after `DeleteViewProperty`: the object lives as long as its view, or
 //! until `DeletePropertyHolder` of a new one.
 //! Cost: a read is one look-up in the connections and one call of the host. To count below a folder
@@ -140,7 +147,7 @@ public:
     virtual bool GetBooleanValue(zbIBrowserViewItem* item, bool& out) = 0;
 
     //! The text of a script stays valid until this operation is called again or the property goes;
-    //! any other as long as the data property says.
+    //! any other as long as the data property says. Null: also if the script deletes the view.
     virtual char const* GetTextPointer(zbIBrowserViewItem* item) = 0;
 
     //! The next one; the data item is not looked at.

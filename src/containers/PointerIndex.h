@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //! \file
-//! From the address of a data item to the slot of its view item.
+//! From the address of an object to its slot in a list.
 #pragma once
 
 #include <cstddef>

@@ -3,9 +3,9 @@
 //! A list of distinct objects in the order in which they came.
 #pragma once
 
+#include "containers/PointerIndex.h"
 #include "containers/SlotVector.h"
 
-#include <unordered_map>
 #include <vector>
 
 namespace zbbrowser::detail {
@@ -19,12 +19,12 @@ public:
     std::size_t Count() const { return slots_.Count(); }
 
     //! Compares the pointer only, so a stale one is harmless.
-    bool Contains(T const* object) const { return slotOf_.contains(object); }
+    bool Contains(T const* object) const { return Find(object) != nullptr; }
 
     //! The object itself if it is in the list, otherwise null.
     T* Find(T const* object) const {
-        auto const found = slotOf_.find(object);
-        return found == slotOf_.end() ? nullptr : slots_[found->second];
+        auto const slot = SlotOf(object);
+        return slot == PointerIndex::none ? nullptr : slots_[slot];
     }
 
     //! Null: refused. False if it is there already.
@@ -32,26 +32,27 @@ public:
         if (object == nullptr || Contains(object))
             return false;
         slots_.Reserve(1);
-        slotOf_.emplace(object, static_cast<typename SlotVector<T*>::Slot>(slots_.Slots().size()));
-        slots_.Append(object);
+        index_.Reserve(1);
+        auto const slot = slots_.Append(object);
+        index_.InsertIfAbsent(object, slot, [](Slot) { return false; });
         return true;
     }
 
     //! False if it is not there.
     bool Remove(T const* object) {
-        auto const found = slotOf_.find(object);
-        if (found == slotOf_.end())
+        auto const slot = SlotOf(object);
+        if (slot == PointerIndex::none)
             return false;
-        slots_.Take(found->second);
-        slotOf_.erase(found);
+        index_.Erase(object, slot);
+        slots_.Take(slot);
         if (slots_.WantsCompaction())
-            slots_.Compact([this](T& moved, auto, auto to) { slotOf_[&moved] = to; });
+            Compact();
         return true;
     }
 
     void Clear() {
         slots_.Clear();
-        slotOf_.clear();
+        index_.Clear();
     }
 
     //! A copy, for loops that call the host.
@@ -88,8 +89,27 @@ public:
     }
 
 private:
+    using Slot = PointerIndex::Slot;
+
+    // One is often asked for several times in a row.
+    Slot SlotOf(T const* object) const {
+        auto const isObject = [&](Slot slot) { return slots_[slot] == object; };
+        if (object != nullptr && last_ < slots_.Slots().size() && isObject(last_))
+            return last_;
+        auto const slot = index_.Find(object, isObject);
+        last_ = slot;
+        return slot;
+    }
+
+    void Compact() {
+        std::vector<Slot> newSlot(slots_.Slots().size());
+        slots_.Compact([&](T&, Slot from, Slot to) { newSlot[from] = to; });
+        index_.Renumber(newSlot);
+    }
+
     SlotVector<T*> slots_;
-    std::unordered_map<T const*, typename SlotVector<T*>::Slot> slotOf_;
+    PointerIndex index_;
+    mutable Slot last_ = PointerIndex::none; // That was asked for; none if there was none
 };
 
 } // namespace zbbrowser::detail

@@ -127,8 +127,6 @@ private:
     void ForExactly(zbIBrowserView const* view, Call&& call);
     template <class Call>
     void ForOldViewsWith(zbIBrowserDataItemHierarchical* item, Call&& call);
-    template <class Call>
-    void ForOldViewsWith(zbIBrowserDataItemSimple* item, Call&& call);
 
     detail::ViewList<zbBrowserView> oldViews_; // Owned
     detail::ViewList<View> newViews_;          // Owned

@@ -45,15 +45,6 @@ void ViewsInfo::ForOldViewsWith(zbIBrowserDataItemHierarchical* item, Call&& cal
     });
 }
 
-template <class Call>
-void ViewsInfo::ForOldViewsWith(zbIBrowserDataItemSimple* item, Call&& call) {
-    zbIBrowserDataSourceSimple const* const source = item->GetDataSource();
-    oldViews_.Walk([&](zbBrowserView& view) {
-        if (view.GetDataSourceSimple(source) != nullptr)
-            call(view);
-    });
-}
-
 void ViewsInfo::OnDataItemCreated(zbIBrowserDataItemHierarchical* item, bool flag) {
     ForOldViewsWith(item, [=](zbBrowserView& view) { view.OnDataItemCreated(item, flag); });
 }
@@ -89,7 +80,11 @@ void ViewsInfo::OnDataItemUpdated(zbIBrowserDataItemHierarchical* item) {
 }
 
 void ViewsInfo::OnDataItemUpdated(zbIBrowserDataItemSimple* item) {
-    ForOldViewsWith(item, [=](zbBrowserView& view) { view.OnDataItemUpdated(item); });
+    zbIBrowserDataSourceSimple const* const source = item->GetDataSource();
+    oldViews_.Walk([=](zbBrowserView& view) {
+        if (view.GetDataSourceSimple(source) != nullptr)
+            view.OnDataItemUpdated(item, source);
+    });
 }
 
 void ViewsInfo::OnDataSourceRenumbered(zbIBrowserDataSourceSimple* source) {

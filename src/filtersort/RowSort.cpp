@@ -2,7 +2,9 @@
 #include "filtersort/RowSort.h"
 
 #include "containers/Prefetch.h"
+#include "filtersort/CurrentSortProperty.h"
 #include "filtersort/MergeSort.h"
+#include "filtersort/SortHandlerBase.h"
 #include "view/ViewContext.h"
 
 #include <zbBrowserView/host/zbIBrowserDataCtrl.h>
@@ -22,7 +24,7 @@ using Verdict = RowSort::Verdict;
 // the first stands before the second; otherwise the next key is asked. A new key is a function
 // here and a place in one of the orders below.
 
-//! Asks the source of `a`, unless there is none or something of the view has gone since.
+//! Asks the source of `a`, unless there is none or the sort has been disturbed.
 template <class Ask>
 Verdict AskSource(RowSort const& sort, Row const& a, Ask ask) {
     if (sort.IsDisturbed())
@@ -101,19 +103,28 @@ using PreparedOrder = OrderBy<BySortProperty, WithoutOrder<ByName>, WithoutOrder
 
 } // namespace
 
-RowSort::RowSort(ViewContext& context, zbIBrowserViewProperty* property)
+RowSort::RowSort(ViewContext& context, SortHandlerBase const& handler,
+                 zbIBrowserViewProperty* property)
     : context_(context)
+    , handler_(handler)
     , retiredBefore_(context.Lifetime().RetiredCount())
+    , orderBefore_(handler.OrderNumber())
     , property_(property) {
 }
 
 bool RowSort::IsDisturbed() const {
-    return context_.Lifetime().RetiredCount() != retiredBefore_ || !context_.IsAlive();
+    return context_.Lifetime().RetiredCount() != retiredBefore_ || !context_.IsAlive() ||
+           handler_.OrderNumber() != orderBefore_;
+}
+
+// It may be that of another view, whose end this view does not notice.
+bool RowSort::IsPropertyCurrent() const {
+    return property_ == nullptr || property_ == CurrentSortProperty();
 }
 
 bool RowSort::Run(Items& items, std::size_t sorted, RowOrder order) {
     auto result = SortedBy(order, items, sorted);
-    if (IsDisturbed())
+    if (IsDisturbed() || !IsPropertyCurrent())
         return false;
     items = std::move(result);
     return true;
@@ -184,8 +195,9 @@ std::uint32_t RowSort::NumberOf(zbIBrowserDataSourceSimple* source) {
     if (isNew) {
         auto const isAsked = source != nullptr && !IsDisturbed();
         auto* const control = isAsked ? source->GetDataCtrl() : nullptr;
-        auto* const property =
-            isAsked && property_ != nullptr ? property_->GetDataProperty(source) : nullptr;
+        auto* const property = isAsked && property_ != nullptr && IsPropertyCurrent()
+                                   ? property_->GetDataProperty(source)
+                                   : nullptr;
         sources_.push_back({source, control, property});
     }
     lastSource_ = source;

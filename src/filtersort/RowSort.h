@@ -17,6 +17,7 @@ class zbIBrowserViewProperty;
 
 namespace zbbrowser::detail {
 
+class SortHandlerBase;
 class ViewContext;
 
 //! The orders in which lists are sorted. RowSort.cpp says of which keys each is made.
@@ -35,15 +36,17 @@ enum class RowOrder : std::uint8_t {
 //! data control and the data property that it sorts by, for each pair of sources their order. The
 //! host's comparisons are asked for pairs of rows.
 //!
-//! A comparison should not, but may call back into the view. As soon as anything of the view goes
-//! meanwhile, the host is asked no more, since its data may have gone as well, and the sort is
-//! given up. Requires: an open CallScope, by which that is noticed.
+//! A comparison should not, but may call back into the library. As soon as anything of the view
+//! goes meanwhile, the host is asked no more, since its data may have gone as well, and the sort is
+//! given up; so it is when the view is sorted by another column. Requires: an open CallScope, by
+//! which the former is noticed.
 class RowSort {
 public:
     using Items = std::vector<zbIBrowserViewItem*>;
 
-    //! \param property of the sorted column; null: none, and the key by data property is left out
-    RowSort(ViewContext& context, zbIBrowserViewProperty* property);
+    //! \param property the current sort property; null: none, and the key by data property is left
+    //! out. If it does not stay the current one, the sort is given up, since it may have gone.
+    RowSort(ViewContext& context, SortHandlerBase const& handler, zbIBrowserViewProperty* property);
 
     //! Sorts items; those for which all keys tie keep their order. The first `sorted` of them are
     //! in this order already and are not compared with each other.
@@ -65,7 +68,7 @@ public:
     };
 
     Source const& SourceOf(Row const& row) const { return sources_[row.source]; }
-    //! Something of the view has gone.
+    //! Something of the view has gone, or it is sorted by another column.
     bool IsDisturbed() const;
 
     enum class Verdict : std::uint8_t { Undecided, Before, NotBefore };
@@ -82,10 +85,13 @@ private:
     std::vector<Row> RowsFrom(Items const& items, std::size_t first);
     std::uint32_t NumberOf(zbIBrowserDataSourceSimple* source);
     Verdict AskControl(Source const& a, Source const& b) const;
+    bool IsPropertyCurrent() const;
 
     ViewContext& context_;
+    SortHandlerBase const& handler_;
     std::size_t const retiredBefore_;
-    zbIBrowserViewProperty* const property_; // Not owned; null: none
+    std::uint64_t const orderBefore_;
+    zbIBrowserViewProperty* const property_; // Not owned; null: none. Valid if IsPropertyCurrent()
     std::vector<Source> sources_;
     std::unordered_map<zbIBrowserDataSourceSimple*, std::uint32_t> sourceNumbers_;
     zbIBrowserDataSourceSimple* lastSource_ = nullptr;

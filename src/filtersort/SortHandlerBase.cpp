@@ -89,7 +89,7 @@ bool SortHandlerBase::IsOfView(zbIBrowserViewColumn const* column) const {
            columns->Find(column) != nullptr;
 }
 
-void SortHandlerBase::SortFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& folders) const {
+void SortHandlerBase::SortFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& folders) {
     std::stable_sort(folders.begin(), folders.end(), [](auto const* a, auto const* b) {
         return StrICmp(a->GetName(), b->GetName()) < 0;
     });

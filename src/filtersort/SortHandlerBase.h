@@ -57,13 +57,10 @@ public:
     void OnColumnGone(zbIBrowserViewColumn const* column);
 
     //! By name, regardless of case, whatever the sorted column is.
-    void SortFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& folders) const;
+    static void SortFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& folders);
 
     //! How the groups of a parent are listed now.
     ChildGroupReads GroupsOf(ChildParent parent) const;
-
-protected:
-    ViewContext& Context() const { return context_; }
 
     //! Counts the changes of the sorted column. 0 before the first.
     std::uint64_t OrderNumber() const { return orderNumber_; }

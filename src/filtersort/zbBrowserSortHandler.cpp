@@ -82,11 +82,9 @@ bool zbBrowserSortHandler::SortDataItems(Items& items, std::size_t sorted, SortB
     if (items.size() >= 2 && !column->IsDefault())
         TakeSortProperty(*column);
     auto now = BasisOf(*column);
-    RowSort sort(oldContext_, now.property);
+    RowSort sort(oldContext_, *this, now.property);
     auto const order = column->IsDefault() ? RowOrder::Default : RowOrder::Column;
     if (items.size() >= 2 && !sort.Run(items, basis == now ? sorted : 0, order))
-        return false;
-    if (now.orderNumber != OrderNumber()) // The host sorted by another column meanwhile
         return false;
     basis = std::move(now);
     return true;
@@ -119,7 +117,7 @@ bool zbBrowserSortHandler::SortPrepared(Items& items, FlatItem flatItem, RowOrde
     if (column == nullptr || items.size() < 2)
         return true;
     CallScope const scope(oldContext_.Lifetime());
-    RowSort sort(oldContext_, nullptr);
+    RowSort sort(oldContext_, *this, nullptr);
     auto* const first = items.front() == nullptr ? nullptr : flatItem(*items.front());
     auto* const source = first == nullptr ? nullptr : first->GetDataSource();
     auto const isCustom = !customProperty_.empty();
@@ -163,14 +161,10 @@ bool zbBrowserSortHandler::GetChildren(zbBrowserViewItemFreeFolder& folder, Item
     if (folder.GetView() != &oldContext_.View())
         return false;
     CallScope const scope(oldContext_.Lifetime());
-    auto const groups = GroupsOf(ChildParent::OldFolder);
     auto* const rows = folder.Holder() == nullptr ? nullptr : &folder.Holder()->NoGrouping();
-    for (auto const& group : groups) {
-        if (group.group == ChildGroup::Leaves && group.sorted && rows != nullptr &&
-            !rows->SortRows())
-            return false;
-    }
-    for (auto const& group : groups) {
+    if (rows != nullptr && GetSortedColumn() != nullptr && !rows->SortRows())
+        return false;
+    for (auto const& group : GroupsOf(ChildParent::OldFolder)) {
         if (group.group == ChildGroup::Folders)
             folder.GetChildFolderItems(out, group.sorted, group.ascending);
         else if (rows != nullptr && !rows->GetSortedItems(out, false, group.ascending))

@@ -21,7 +21,8 @@ class OldViewContext;
 //! parents. While the view has no sorted column, rows are left as they are.
 //!
 //! The sorts of lists of rows answer false, and leave the list alone, if something of the view went
-//! while the host compared. What a comparison throws passes through them, with the same outcome.
+//! or the sorted column changed while the host compared. What a comparison throws passes through
+//! them, with the same outcome.
 class zbBrowserSortHandler final : public zbbrowser::detail::SortHandlerBase {
 public:
     using CaptionOf = char const* (*)(zbIBrowserViewItem const&);

@@ -92,6 +92,7 @@ void SelectionBase::SetDropItem(zbIBrowserViewItem* item) {
     ResetDropItem();
     if (context_ == nullptr || !context_->Owns(item))
         return;
+    CallScope const scope(context_->Lifetime());
     dropItem_ = item;
     isDropOnFolder_ = item->IsFreeFolder();
     OnDropItemSet(*item);

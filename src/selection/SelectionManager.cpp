@@ -2,12 +2,12 @@
 #include "selection/SelectionManager.h"
 
 #include "selection/SelectedText.h"
+#include "view/DataOfItems.h"
 #include "view/NewViewContext.h"
 
 #include <zbBrowserView/host/zbIBrowserDataCtrl.h>
 #include <zbBrowserView/host/zbIBrowserDataItem.h>
 #include <zbBrowserView/host/zbIBrowserDataProperty.h>
-#include <zbBrowserView/View.h>
 #include <zbBrowserView/zbIBrowserViewProperty.h>
 
 namespace zbbrowser {
@@ -16,11 +16,6 @@ using detail::CallScope;
 
 SelectionManager::SelectionManager(detail::NewViewContext& context)
     : SelectionBase(context) {
-}
-
-View* SelectionManager::NewView() const {
-    auto* const context = static_cast<detail::NewViewContext*>(Context());
-    return context == nullptr ? nullptr : &context->NewView();
 }
 
 void SelectionManager::Update(Items items, bool select, bool clear) {
@@ -72,11 +67,13 @@ bool SelectionManager::GetChangedViewItems(Items& out) {
     return !out.empty();
 }
 
-bool SelectionManager::GetSelectedDataSources(std::set<zbIBrowserDataSource*>& out,
-                                              bool ancestors) {
+// A row without groups or rows above it has no ancestors in its folder.
+bool SelectionManager::GetSelectedDataSources(std::set<zbIBrowserDataSource*>& out, bool) {
     out.clear();
-    if (NewView() != nullptr)
-        NewView()->GetDataSourcesFromViewItems(Selected(), out, ancestors);
+    if (Context() == nullptr)
+        return false;
+    CallScope const scope(Context()->Lifetime());
+    out = detail::DataSourcesOf(*Context(), Selected());
     return !out.empty();
 }
 
@@ -94,13 +91,11 @@ bool SelectionManager::GetSelectedPropertyTextOfSource(zbIBrowserDataSource* sou
 bool SelectionManager::CollectText(zbIBrowserDataSource* source, zbIBrowserViewProperty* property,
                                    zbString& out) {
     out.clear();
-    if (NewView() == nullptr || property == nullptr)
+    if (Context() == nullptr || property == nullptr)
         return false;
     CallScope const scope(Context()->Lifetime());
-    std::set<zbIBrowserDataItem*> items;
-    NewView()->GetDataItemsFromViewItems(Selected(), items, true);
     detail::SelectedText text(false);
-    for (auto* const item : items) {
+    for (auto* const item : detail::DataItemsOf(*Context(), Selected())) {
         auto* const itsSource = item->GetDataSource();
         auto* const ctrl = Context()->DataCtrl();
         auto* const dataProperty = property->GetDataProperty(itsSource);

@@ -7,8 +7,6 @@
 
 namespace zbbrowser {
 
-class View;
-
 namespace detail {
 class NewViewContext;
 }
@@ -38,8 +36,6 @@ protected:
     void ForgetItem(zbIBrowserViewItem const& item) override;
 
 private:
-    //! Null once the view has gone.
-    View* NewView() const;
     //! Source null: of all sources.
     bool CollectText(zbIBrowserDataSource* source, zbIBrowserViewProperty* property, zbString& out);
 

@@ -95,6 +95,10 @@ private:
     void TellChanging(Items const& items, bool select);
     void TellSummary();
     SelectedData CollectData(bool recursive) const;
+    template <class Source, class DataItem>
+    bool CollectSources(std::set<Source*>& out,
+                        bool (zbIBrowserViewItemFreeFolder::*ofFolder)(std::vector<Source*>&) const,
+                        DataItem* (zbIBrowserViewItem::*ofRow)() const) const;
     template <class DataItem>
     bool CollectItems(std::vector<DataItem*>& out, bool recursive) const;
     template <class DataItem, class Source>

@@ -118,15 +118,22 @@ bool zbBrowserSelectionManager::GetSelectedDataItemsOfSource(
 
 // Sources
 
-// A row without groups or rows above it has no ancestors in its folder.
-bool zbBrowserSelectionManager::GetSelectedDataSources(std::set<zbIBrowserDataSourceSimple*>& out,
-                                                       bool) {
+template <class Source, class DataItem>
+bool zbBrowserSelectionManager::CollectSources(
+    std::set<Source*>& out,
+    bool (zbIBrowserViewItemFreeFolder::*ofFolder)(std::vector<Source*>&) const,
+    DataItem* (zbIBrowserViewItem::*ofRow)() const) const {
     out.clear();
-    for (auto* const item : Selected()) {
-        std::vector<zbIBrowserDataSourceSimple*> sources;
-        if (auto const* const folder = OldView()->FindFreeFolder(item); folder != nullptr)
-            folder->GetLists(sources);
-        else if (auto const* const data = item->GetDataItemSimple(); data != nullptr)
+    if (Context() == nullptr)
+        return false;
+    CallScope const scope(Context()->Lifetime());
+    for (auto const* const item : Selected()) {
+        std::vector<Source*> sources;
+        if (zbIBrowserViewItemFreeFolder const* const folder = OldView()->FindFreeFolder(item);
+            folder != nullptr)
+            (folder->*ofFolder)(sources);
+        else if (auto const* const data = Context()->Owns(item) ? (item->*ofRow)() : nullptr;
+                 data != nullptr)
             sources.push_back(data->GetDataSource());
         out.insert(sources.begin(), sources.end());
     }
@@ -134,19 +141,17 @@ bool zbBrowserSelectionManager::GetSelectedDataSources(std::set<zbIBrowserDataSo
     return !out.empty();
 }
 
+// A row without groups or rows above it has no ancestors in its folder.
+bool zbBrowserSelectionManager::GetSelectedDataSources(std::set<zbIBrowserDataSourceSimple*>& out,
+                                                       bool) {
+    return CollectSources(out, &zbIBrowserViewItemFreeFolder::GetLists,
+                          &zbIBrowserViewItem::GetDataItemSimple);
+}
+
 bool zbBrowserSelectionManager::GetSelectedDataSourcesHierarchical(
     std::set<zbIBrowserDataSourceHierarchical*>& out, bool) {
-    out.clear();
-    for (auto* const item : Selected()) {
-        std::vector<zbIBrowserDataSourceHierarchical*> trees;
-        if (auto const* const folder = OldView()->FindFreeFolder(item); folder != nullptr)
-            folder->GetTrees(trees);
-        else if (auto const* const data = item->GetDataItemHierarchical(); data != nullptr)
-            trees.push_back(data->GetDataSource());
-        out.insert(trees.begin(), trees.end());
-    }
-    out.erase(nullptr);
-    return !out.empty();
+    return CollectSources(out, &zbIBrowserViewItemFreeFolder::GetTrees,
+                          &zbIBrowserViewItem::GetDataItemHierarchical);
 }
 
 bool zbBrowserSelectionManager::GetSelectedDependentFolders(Items& out) {
@@ -176,6 +181,8 @@ void AppendValues(SelectedText& text, zbIBrowserViewProperty* property,
                   std::vector<zbIBrowserDataItemHierarchical*> const& items) {
     for (auto const* const item : items) {
         auto* const face = item->GetDataItemSimple();
+        if (face == nullptr)
+            continue;
         auto const* const parent = item->GetParent();
         AppendValue(text, DataPropertyOf(property, face->GetDataSource()), face,
                     parent == nullptr ? nullptr : parent->GetDataItemSimple());
@@ -200,7 +207,8 @@ bool zbBrowserSelectionManager::GetSelectedPropertyTextOfSource(
     std::vector<zbIBrowserDataItemHierarchical*> ofTrees;
     CollectItems(ofTrees, true);
     std::erase_if(ofTrees, [source](zbIBrowserDataItemHierarchical const* item) {
-        return item->GetDataItemSimple()->GetDataSource() != source;
+        auto const* const face = item->GetDataItemSimple();
+        return face == nullptr || face->GetDataSource() != source;
     });
     AppendValues(text, ofHierarchical, ofTrees);
     out = text.Take();

@@ -5,6 +5,8 @@
 
 #include <zbBrowserView/View.h>
 
+#include <utility>
+
 namespace zbbrowser::detail {
 
 NewViewContext::NewViewContext(zbbrowser::View& view, zbBrowserViewCtrl const* ctrl)
@@ -16,6 +18,14 @@ NewViewContext::~NewViewContext() = default;
 
 void NewViewContext::SetRoot(std::unique_ptr<ViewItemVirtualRoot> root) {
     root_ = std::move(root);
+}
+
+void NewViewContext::DeleteRoot() {
+    if (root_ == nullptr)
+        return;
+    for (auto const& [item, folder] : std::exchange(folders_, {}))
+        OnFolderGone(*folder);
+    Lifetime().Retire(std::move(root_));
 }
 
 ViewItemFreeFolder* NewViewContext::FindFolder(zbIBrowserViewItem const* item) const {

@@ -28,7 +28,10 @@ public:
 
     //! Null before they are made and once the view has deleted them.
     ViewItemVirtualRoot* Root() const { return root_.get(); }
+    //! Requires: there is none.
     void SetRoot(std::unique_ptr<ViewItemVirtualRoot> root);
+    //! The folders are found no more; they go when the operations that are running have returned.
+    void DeleteRoot();
 
     //! The folder of this view behind an interface pointer; null if there is none. The pointer is
     //! compared and not followed. O(1).

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "containers/SlabPool.h"
+#include "items/old/FolderIndex.h"
 #include "view/HandlerSeams.h"
 #include "view/ViewContext.h"
 
@@ -58,11 +59,21 @@ public:
     void UnregisterFolder(zbBrowserViewItemFreeFolder const& folder);
     std::size_t FolderCount() const { return folders_.size(); }
 
+    //! \name Content of folders
+    //! \{
+    FolderIndex& Folders() { return folderIndex_; }
+    void NoteHolderMade() { ++holders_; }
+    void NoteHolderGone() { --holders_; }
+    bool AllFoldersHaveHolders() const { return holders_ == folders_.size(); }
+    //! \}
+
 private:
     zbBrowserView& oldView_;
     HandlerSeams handlers_;
     SlabPool leafMemory_;
     std::unordered_map<zbIBrowserViewItem const*, zbBrowserViewItemFreeFolder*> folders_;
+    FolderIndex folderIndex_;
+    std::size_t holders_ = 0;
 };
 
 //! Leaves that have left their content and are about to go. They are freed with this object, or,

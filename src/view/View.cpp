@@ -41,8 +41,7 @@ char const* const View::DEFAULT_MOVETO_OPERATION = "default_moveto_operation";
 // Later parts read earlier ones from the view.
 View::View(zbBrowserViewCtrl const* ctrl, zbString const& name)
     : name_(name)
-    , viewCtrl_(ctrl)
-    , context_(nullptr) {
+    , viewCtrl_(ctrl) {
     auto context = std::make_unique<detail::NewViewContext>(*this, ctrl);
     context_ = context.get();
     CreateVirtualRoot();
@@ -198,6 +197,8 @@ bool View::GetConnected(std::set<zbIBrowserDataReference*>& out) const {
 // A source may connect and disconnect while it is asked for its name, so the walk finds its place
 // anew each time.
 zbIBrowserDataSource* View::FindConnected(char const* name) {
+    if (name == nullptr)
+        return nullptr;
     detail::CallScope const scope(context_->Lifetime());
     for (auto place = connectedSources_.begin(); place != connectedSources_.end();) {
         zbIBrowserDataSource* const source = *place;
@@ -226,15 +227,9 @@ bool View::GetShowEmptyFoldersFlag() const {
 }
 
 void View::ShowEmptyFolders(bool show) {
+    detail::CallScope const scope(context_->Lifetime());
     showEmptyFolders_ = show;
-    if (zbBrowserSignalManager* const signals = GetSignalManager())
-        signals->EmptyFoldersShown(this, show); // Last: a slot may delete this view
-}
-
-void View::CreateFilterHandler() {
-}
-
-void View::DeleteFilterHandler() {
+    context_->Raise(&zbBrowserSignalManager::EmptyFoldersShown, this, show);
 }
 
 // A folder of this generation never counts as empty, so there is nothing to ask it.

@@ -20,16 +20,6 @@ void ViewLifetime::Retire(void* object, void (*destroy)(void*, void*), void* own
     retired_.push_back({object, destroy, owner});
 }
 
-void ViewLifetime::Leave() {
-    if (depth_ == 1)
-        FreeRetired();
-    --depth_;
-    if (depth_ == 0)
-        hostHasRun_ = false;
-    if (depth_ == 0 && whenIdle_ != nullptr)
-        whenIdle_(view_); // Frees this object too
-}
-
 // Destroying an object may retire what it holds. The list is walked by index, since it may grow,
 // and in the order in which the objects went.
 void ViewLifetime::FreeRetired() {

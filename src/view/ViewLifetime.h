@@ -33,8 +33,11 @@ public:
     //! A slot, or a source that lists its items, has been called since the outermost operation
     //! began. It may have freed data items without telling, so a data item that was listed before
     //! must not be followed unless its source says that it is still there.
-    bool HasHostRun() const { return hostHasRun_; }
-    void NoteHostRun() { hostHasRun_ = true; }
+    bool HasHostRun() const { return hostRuns_ > 0; }
+    //! How often. An operation that compares this with what it was when it began does not mind what
+    //! ran before.
+    std::size_t HostRuns() const { return hostRuns_; }
+    void NoteHostRun() { ++hostRuns_; }
 
     //! Objects that are held back now. While an operation runs, this grows with all that goes.
     std::size_t RetiredCount() const { return retired_.size(); }
@@ -64,11 +67,20 @@ private:
         void* owner; // Not owned; outlives this object
     };
 
-    void Leave();
+    // Inline, since every cell that is painted takes it several times.
+    void Leave() {
+        if (depth_ == 1 && !retired_.empty())
+            FreeRetired();
+        if (--depth_ > 0)
+            return;
+        hostRuns_ = 0;
+        if (whenIdle_ != nullptr)
+            whenIdle_(view_); // Frees this object too
+    }
     void FreeRetired();
 
     std::size_t depth_ = 0;
-    bool hostHasRun_ = false;
+    std::size_t hostRuns_ = 0;
     std::vector<Retired> retired_;
     void* view_ = nullptr; // Not owned; set once the view has been given up
     void (*whenIdle_)(void*) = nullptr;

@@ -120,29 +120,20 @@ void View::OnGuiMapDeleted(zbString const& name) {
 
 zbIBrowserStyle* View::GetViewItemStyle(zbIBrowserViewColumn* const column,
                                         zbIBrowserViewItem* const item) const {
-    auto* const own = FindColumn(column);
-    return own == nullptr ? nullptr : own->GetViewItemStyle(item);
+    return context_->Columns()->StyleOf(column, item);
 }
 
 bool View::SetViewItemStyle(zbIBrowserViewItem* const item) {
-    auto* const column = GetDefaultColumnPtr();
-    if (column == nullptr || !context_->Owns(item))
-        return false;
-    column->AddFolderStyle(item);
-    return true;
+    return context_->Columns()->GiveStyle(item);
 }
 
 bool View::RemoveViewItemStyle(zbIBrowserViewItem* const item) {
-    auto* const column = GetDefaultColumnPtr();
-    if (column == nullptr || !context_->Owns(item))
-        return false;
-    column->RemoveFolderStyles(item);
-    return true;
+    return context_->Columns()->TakeStyles(item);
 }
 
 // Deletes nothing: in this generation only the style itself does.
 bool View::DeleteStyleElement(zbIBrowserStyleElement* element) {
-    return FindColumn(context_->Styles().ColumnOf(element)) != nullptr;
+    return context_->Styles().ColumnOf(element) != nullptr;
 }
 
 // Texts of folders are never bold or italic here, and about rows nothing is told.

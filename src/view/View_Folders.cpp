@@ -19,7 +19,7 @@ void View::CreateVirtualRoot() {
 }
 
 void View::DeleteVirtualRoot() {
-    context_->SetRoot(nullptr);
+    context_->DeleteRoot();
 }
 
 ViewItemVirtualRoot* View::GetVirtualRoot() const {

@@ -160,4 +160,23 @@ zbIBrowserDataSourceSimple* View::GetFilterDataSource(char const*) const {
     return nullptr;
 }
 
+void View::Hide(zbIBrowserViewItem*) {
+}
+
+void View::ExpandSelectedItems() {
+}
+
+void View::CollapseSelectedItems() {
+}
+
+FilterHandler* View::GetFilterHandlerImpl() const {
+    return nullptr;
+}
+
+void View::CreateFilterHandler() {
+}
+
+void View::DeleteFilterHandler() {
+}
+
 } // namespace zbbrowser

@@ -2,6 +2,7 @@
 // The selection, and from view items to data items and back.
 #include "items/new/ViewItemFreeFolder.h"
 #include "selection/SelectionManager.h"
+#include "view/DataOfItems.h"
 #include "view/NewViewContext.h"
 
 #include <zbBrowserView/host/zbIBrowserDataItem.h>
@@ -98,15 +99,12 @@ void View::AllDataDependentItemsDelete(bool) {
     context_->Selection().ClearAll();
 }
 
-// From view items to data items. Folders show no data yet and so have none to add.
+// From view items to data items
 
 bool View::GetDataItemsFromViewItems(Items const& items, std::set<zbIBrowserDataItem*>& out,
                                      bool) const {
-    out.clear();
-    for (auto const* const item : items) {
-        if (item != nullptr && item->GetView() == this && item->GetDataItem() != nullptr)
-            out.insert(item->GetDataItem());
-    }
+    CallScope const scope(context_->Lifetime());
+    out = detail::DataItemsOf(*context_, items);
     return !items.empty();
 }
 
@@ -120,13 +118,9 @@ bool View::GetDataItemsFromViewItems(Items const& items, std::set<zbIBrowserData
 
 bool View::GetDataSourcesFromViewItems(Items const& items, std::set<zbIBrowserDataSource*>& out,
                                        bool) const {
-    out.clear();
-    std::set<zbIBrowserDataItem*> dataItems;
-    auto const answer = GetDataItemsFromViewItems(items, dataItems, false);
-    for (auto const* const dataItem : dataItems)
-        out.insert(dataItem->GetDataSource());
-    out.erase(nullptr);
-    return answer;
+    CallScope const scope(context_->Lifetime());
+    out = detail::DataSourcesOf(*context_, items);
+    return !items.empty();
 }
 
 // From data items to view items

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 //! \file
-//! What a view of the new generation offers and does not do yet, for want of its root folder,
-//! columns and handlers. Each operation answers as it will when it finds none. What moves out of
-//! this file into one of its own is built.
+//! What waits for rows, menus, collector and view operations. Each operation answers as it will for
+//! a view without them. What moves out of this file is built.
 #include "control/Messages.h"
 
 #include <zbBrowserView/View.h>
@@ -12,6 +11,8 @@
 namespace zbbrowser {
 
 using detail::Fail;
+
+// Rows
 
 bool View::Expand(zbIBrowserViewItem* item) {
     if (locked_)
@@ -26,29 +27,29 @@ bool View::Collapse(zbIBrowserViewItem* item) {
     return true;
 }
 
-void View::Hide(zbIBrowserViewItem*) {
+void View::ShowAscendants(zbIBrowserViewItem* const) {
 }
 
-// Everything else.
-
-char const* View::GetCollectorGuiMapName() const {
-    return "";
-}
-
-bool View::CreateViewOperation(char const*) {
-    return false;
-}
-
-zbIBrowserCollector* View::GetCollectorHandler() const {
+zbIBrowserViewItem* View::GetNextViewItem(zbIBrowserViewItem const* const, bool, bool) const {
     return nullptr;
 }
 
-zbIBrowserViewOperation* View::FindViewOperation(char const*) const {
-    return nullptr;
+void View::ExpandAllItems() {
 }
 
-void View::PerformVOPAttachedToGvnDOP(char const*) {
+void View::CollapseAllItems() {
 }
+
+void View::ClearDirtyForWindowItems() {
+}
+
+void View::UpdateDirtyForWindowItems() {
+}
+
+void View::AllDirtyDataDependentItemsRebuild(bool) {
+}
+
+// Menus
 
 zbIBrowserPopupMenu* View::CreatePopupMenu(char const*) {
     return nullptr;
@@ -70,8 +71,14 @@ bool View::GetAllPopupMenus(std::vector<zbIBrowserPopupMenu*>&) {
     return false;
 }
 
-zbIBrowserViewItem* View::GetNextViewItem(zbIBrowserViewItem const* const, bool, bool) const {
+// Collector
+
+zbIBrowserCollector* View::GetCollectorHandler() const {
     return nullptr;
+}
+
+char const* View::GetCollectorGuiMapName() const {
+    return "";
 }
 
 bool View::IsBrowserCollectorOn() const {
@@ -92,30 +99,17 @@ bool View::PerformCollectorOperation(ZBBROWSER_COLSEL_TYPE) const {
     return false;
 }
 
-void View::ShowAscendants(zbIBrowserViewItem* const) {
+// View operations
+
+bool View::CreateViewOperation(char const*) {
+    return false;
 }
 
-void View::ExpandAllItems() {
+zbIBrowserViewOperation* View::FindViewOperation(char const*) const {
+    return nullptr;
 }
 
-void View::ExpandSelectedItems() {
-}
-
-void View::CollapseAllItems() {
-}
-
-void View::CollapseSelectedItems() {
-}
-
-// Operations beyond the interface.
-
-void View::ClearDirtyForWindowItems() {
-}
-
-void View::UpdateDirtyForWindowItems() {
-}
-
-void View::AllDirtyDataDependentItemsRebuild(bool) {
+void View::PerformVOPAttachedToGvnDOP(char const*) {
 }
 
 } // namespace zbbrowser

@@ -2,14 +2,17 @@
 // Columns and their styles.
 #include "presentation/columns/ColumnSet.h"
 #include "presentation/columns/zbBrowserViewColumn.h"
+#include "presentation/properties/PropertyList.h"
+#include "presentation/properties/zbBrowserViewProperty.h"
 #include "view/OldViewContext.h"
 
 #include <zbBrowserView/zbBrowserView.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 #include <zbBrowserView/zbIBrowserViewProperty.h>
 
-using zbbrowser::detail::CallScope;
 using zbbrowser::detail::ColumnSet;
+using zbbrowser::detail::DefaultProperty;
+using zbbrowser::detail::OldViewContext;
 
 // Columns
 
@@ -106,52 +109,49 @@ void zbBrowserView::OnGuiMapDeleted(zbString const& name) {
 
 zbIBrowserStyle* zbBrowserView::GetViewItemStyle(zbIBrowserViewColumn* const column,
                                                  zbIBrowserViewItem* const item) const {
-    auto* const own = FindColumn(column);
-    return own == nullptr ? nullptr : own->GetViewItemStyle(item);
+    return context_->Columns()->StyleOf(column, item);
 }
 
 bool zbBrowserView::SetViewItemStyle(zbIBrowserViewItem* const item) {
-    auto* const column = GetDefaultColumnPtr();
-    if (column == nullptr || !context_->Owns(item))
-        return false;
-    column->AddFolderStyle(item);
-    return true;
+    return context_->Columns()->GiveStyle(item);
 }
 
 bool zbBrowserView::RemoveViewItemStyle(zbIBrowserViewItem* const item) {
-    auto* const column = GetDefaultColumnPtr();
-    if (column == nullptr || !context_->Owns(item))
-        return false;
-    column->RemoveFolderStyles(item);
-    return true;
+    return context_->Columns()->TakeStyles(item);
 }
 
 bool zbBrowserView::DeleteStyleElement(zbIBrowserStyleElement* element) {
-    auto* const column = FindColumn(context_->Styles().ColumnOf(element));
+    auto* const column = context_->Styles().ColumnOf(element);
     return column != nullptr && column->DeleteStyleElement(element);
 }
 
-// The look of texts
+// The look of texts. What the property asks the host for is an operation of its own, after which
+// nothing of the view is touched here.
 
 namespace {
 
 //! Reads a yes or no about a row. A property of another type leaves `out` as it is, and that counts
 //! as read.
-bool ReadFlag(zbIBrowserViewProperty* property, zbIBrowserViewItem* row, bool& out) {
+bool ReadFlag(zbBrowserViewProperty* property, zbIBrowserViewItem* row, bool& out) {
     if (property == nullptr)
         return false;
     return property->GetDataType() != ZBBROWSER_DATA_TYPE_BOOLEAN ||
            property->GetBooleanValue(row, out);
 }
 
-zbString const& BoldProperty() {
-    static zbString const name(zbBrowserView::DEFAULT_BOLD_TEXT_PROP);
-    return name;
+zbBrowserViewProperty* Find(OldViewContext const& context, DefaultProperty which) {
+    auto const* const properties = context.Properties();
+    return properties == nullptr ? nullptr
+                                 : static_cast<zbBrowserViewProperty*>(properties->Default(which));
 }
 
-zbString const& ItalicProperty() {
-    static zbString const name(zbBrowserView::DEFAULT_ITALIC_TEXT_PROP);
-    return name;
+//! A folder tells its own flag, a group has none, and about a row the property tells.
+bool ReadLook(OldViewContext const& context, zbIBrowserViewItem& item, DefaultProperty which,
+              bool (zbIBrowserViewItemFreeFolder::*ofFolder)() const, bool& out) {
+    if (item.IsDataLeaf() || (!item.IsFreeFolder() && !item.IsDependentFolder()))
+        return ReadFlag(Find(context, which), &item, out);
+    out = item.IsFreeFolder() && (static_cast<zbIBrowserViewItemFreeFolder&>(item).*ofFolder)();
+    return true;
 }
 
 } // namespace
@@ -160,11 +160,8 @@ bool zbBrowserView::IsTextBold(zbIBrowserViewItem* const item,
                                zbIBrowserStyleElement* const element, bool& out) const {
     if (item == nullptr || context_->Styles().ColumnOf(element) == nullptr)
         return false;
-    CallScope const scope(context_->Lifetime());
-    if (!item->IsFreeFolder() && !item->IsDependentFolder())
-        return ReadFlag(FindViewProperty(BoldProperty()), item, out);
-    out = item->IsFreeFolder() && static_cast<zbIBrowserViewItemFreeFolder*>(item)->GetTextBold();
-    return true;
+    return ReadLook(*context_, *item, DefaultProperty::BoldText,
+                    &zbIBrowserViewItemFreeFolder::GetTextBold, out);
 }
 
 bool zbBrowserView::IsTextItalic(zbIBrowserViewItem* const item,
@@ -172,11 +169,8 @@ bool zbBrowserView::IsTextItalic(zbIBrowserViewItem* const item,
     auto const* const column = context_->Styles().ColumnOf(element);
     if (item == nullptr || column == nullptr || !column->GetItalic())
         return false;
-    CallScope const scope(context_->Lifetime());
-    if (!item->IsFreeFolder() && !item->IsDependentFolder())
-        return ReadFlag(FindViewProperty(ItalicProperty()), item, out);
-    out = item->IsFreeFolder() && static_cast<zbIBrowserViewItemFreeFolder*>(item)->GetTextItalic();
-    return true;
+    return ReadLook(*context_, *item, DefaultProperty::ItalicText,
+                    &zbIBrowserViewItemFreeFolder::GetTextItalic, out);
 }
 
 // There is no property of its own for check boxes.
@@ -185,6 +179,5 @@ bool zbBrowserView::GetCheckBoxValue(zbIBrowserViewItem* const item,
     if (item == nullptr || context_->Styles().ColumnOf(element) == nullptr ||
         item->IsFreeFolder() || item->IsDependentFolder())
         return false;
-    CallScope const scope(context_->Lifetime());
-    return ReadFlag(FindViewProperty(ItalicProperty()), item, out);
+    return ReadFlag(Find(*context_, DefaultProperty::ItalicText), item, out);
 }

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Data events and rebuilds.
-#include "items/old/FolderWalk.h"
-#include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "items/old/zbBrowserViewItemDataLeaf.h"
-#include "items/old/zbBrowserViewItemVirtualRoot.h"
 #include "selection/SelectionBase.h"
+#include "view/EventWalk.h"
 #include "view/LongOperation.h"
-#include "view/OldViewContext.h"
 #include "view/zbBrowserView_Guarded.h"
 
+#include <zbBrowserView/host/zbIBrowserDataItemHierarchical.h>
 #include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
 #include <zbBrowserView/zbBrowserView.h>
 
@@ -16,27 +14,11 @@ using zbbrowser::detail::CallScope;
 using zbbrowser::detail::DetachedLeaves;
 using zbbrowser::detail::HostBracket;
 using zbbrowser::detail::NestedLongOperations;
+using zbbrowser::detail::VisitContents;
+using zbbrowser::detail::WalkContents;
 using zbbrowser::detail::WalkFolders;
 
 using Items = std::vector<zbIBrowserViewItem*>;
-
-namespace {
-
-//! Gives an event to each folder that is not busy, the holders being made where they are missing.
-//! The folder is busy while it and the folders below it work on the event.
-template <class Event>
-void WalkContents(zbBrowserViewItemFreeFolder& root, Event event) {
-    auto const enter = [&](zbBrowserViewItemFreeFolder& folder) {
-        if (folder.IsBusy())
-            return false;
-        folder.SetBusy(true);
-        event(folder.RequireHolder());
-        return true;
-    };
-    WalkFolders(root, enter, [](zbBrowserViewItemFreeFolder& folder) { folder.SetBusy(false); });
-}
-
-} // namespace
 
 // Events on single items
 
@@ -83,22 +65,37 @@ void zbBrowserView::OnDataItemDeleted(zbIBrowserDataItemHierarchical* const item
     ReportDeleted(item);
 }
 
-template <class DataItem>
-void zbBrowserView::ReportUpdated(DataItem* item) {
+template <class Collect>
+void zbBrowserView::ReportUpdated(Collect collect) {
     Guarded([&] {
         Items found;
         Items parents;
-        GetDataDependentViewItems(item, found, parents);
+        collect(found, parents);
+        for (auto const* const viewItem : found) {
+            if (auto const* const leaf = context_->FindLeaf(viewItem); leaf != nullptr)
+                FindFreeFolder(leaf->GetParentFreeFolder())
+                    ->RequireHolder()
+                    .NoGrouping()
+                    .NoteChangedValues();
+        }
         RaiseChanged(parents);
     });
 }
 
 void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemSimple* const item) {
-    ReportUpdated(item);
+    ReportUpdated(
+        [&](Items& found, Items& parents) { GetDataDependentViewItems(item, found, parents); });
+}
+
+void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemSimple* const item,
+                                      zbIBrowserDataSourceSimple const* source) {
+    ReportUpdated(
+        [&](Items& found, Items& parents) { AppendRowsOf(item, source, found, parents); });
 }
 
 void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemHierarchical* const item) {
-    ReportUpdated(item);
+    ReportUpdated(
+        [&](Items& found, Items& parents) { GetDataDependentViewItems(item, found, parents); });
 }
 
 void zbBrowserView::OnDataItemReparented(zbIBrowserDataItemHierarchical* const item,
@@ -123,10 +120,7 @@ void zbBrowserView::OnDataItemsRebuildAll() {
 }
 
 void zbBrowserView::OnDataSourceRenumbered(zbIBrowserDataSourceSimple*) {
-    CallScope const scope(context_->Lifetime());
-    WalkContents(*root_, [](zbBrowserFreeFolderContentHolder& holder) {
-        holder.ForEach([](zbBrowserFreeFolderContent& c) { c.SetUnsorted(); });
-    });
+    SetAllDataItemListsUnsorted();
 }
 
 void zbBrowserView::OnDataSourceRenumbered(zbIBrowserDataSourceHierarchical*) {
@@ -189,32 +183,37 @@ void zbBrowserView::CreateDataDependentViewItems(zbIBrowserDataItemSimple* item,
         return;
     CallScope const scope(context_->Lifetime());
     auto* const source = item->GetDataSource();
+    auto const runsBefore = context_->Lifetime().HostRuns();
     // A slot may have deleted the data item meanwhile.
     auto const isStillThere = [&](zbBrowserFreeFolderContentHolder& holder) {
-        return !context_->Lifetime().HasHostRun() ||
+        return context_->Lifetime().HostRuns() == runsBefore ||
                (holder.FindList(source) != nullptr && source->ContainsDataItem(item));
     };
-    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+    VisitContents(*root_, source, [&](zbBrowserFreeFolderContentHolder& holder) {
         if (isStillThere(holder))
             holder.OnDataItemCreated(item, created, parents);
     });
 }
 
+// Each folder asks anew whether the item is to be shown.
 void zbBrowserView::CreateDataDependentViewItems(zbIBrowserDataItemHierarchical* item,
                                                  Items& created, Items& parents, bool) {
     if (item == nullptr)
         return;
     CallScope const scope(context_->Lifetime());
     WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
-        holder.WithTree().OnReferenceCreated(item, created, parents);
+        context_->Lifetime().NoteHostRun();
+        if (!item->IsHiddenFromTree() && holder.IsAlive())
+            holder.WithTree().OnReferenceCreated(item, created, parents);
     });
 }
 
+// The source is asked for once, while the item surely lives.
 void zbBrowserView::DeleteDataDependentViewItems(zbIBrowserDataItemSimple* item, bool silent) {
     if (item == nullptr)
         return;
     CallScope const scope(context_->Lifetime());
-    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+    VisitContents(*root_, item->GetDataSource(), [&](zbBrowserFreeFolderContentHolder& holder) {
         holder.ForEach([&](zbBrowserFreeFolderContent& c) { c.OnDataItemDeleted(item, silent); });
     });
 }

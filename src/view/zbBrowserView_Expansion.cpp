@@ -57,47 +57,62 @@ namespace {
 
 using Folders = std::unordered_set<zbBrowserViewItemFreeFolder const*>;
 
-//! Expands a folder and those above it. Those in `done` stand open already, with all above them;
-//! a slot may have closed them since.
+//! Expands a folder and those above it, less the root. Those in `done` stand open already, with all
+//! above them; a slot may have closed them since.
 void ExpandChain(zbBrowserViewItemFreeFolder& innermost, Folders& done) {
-    auto& context = innermost.Context();
-    for (auto* folder = &innermost; folder != nullptr && !folder->IsVirtualRoot();
-         folder = folder->Owner()) {
-        if (!folder->IsExpanded()) {
-            if (context.IsHeard(&zbBrowserSignalManager::ViewItemExpanded))
-                done.clear();
-            folder->Expand(false, false);
-        }
+    auto const& lifetime = innermost.Context().Lifetime();
+    for (auto* folder = &innermost; folder != nullptr; folder = folder->Owner()) {
+        if (folder->IsVirtualRoot() && folder != &innermost)
+            return;
+        auto const runsBefore = lifetime.HostRuns();
+        folder->Expand(false, false);
+        if (lifetime.HostRuns() != runsBefore)
+            done.clear();
         if (!done.insert(folder).second)
             return;
     }
 }
 
 //! An item may leave the view, or its whole folder, when a slot hears of an expansion.
-void ExpandAround(OldViewContext& context, zbIBrowserViewItem const* item, Folders& done) {
+void ExpandAround(OldViewContext& context, zbIBrowserViewItem const* item, std::size_t runsBefore,
+                  Folders& done) {
     if (item == nullptr)
         Fail(zbbrowser::detail::NullPointerHit);
     auto* const leaf = context.FindLeaf(item);
     auto* const folder = context.FindFolder(leaf == nullptr ? item : leaf->GetParentFreeFolder());
     if (folder != nullptr)
         ExpandChain(*folder, done);
-    else if (!context.Lifetime().HasHostRun())
+    else if (context.Lifetime().HostRuns() == runsBefore && !context.Knows(item))
         Fail(zbbrowser::detail::DifferentManager);
 }
 
 } // namespace
 
 void zbBrowserView::ExpandAscendants(std::vector<zbIBrowserViewItem*> const& items) {
-    CallScope const scope(context_->Lifetime());
+    ExpandAscendants(items, {});
+}
+
+// What stands beside the item before has nothing left to expand, unless a slot has run since.
+void zbBrowserView::ExpandAscendants(std::vector<zbIBrowserViewItem*> const& items,
+                                     std::vector<zbIBrowserViewItem*> const& parents) const {
+    auto& lifetime = context_->Lifetime();
+    CallScope const scope(lifetime);
+    auto const runsBefore = lifetime.HostRuns();
+    auto runs = runsBefore;
     Folders done;
-    for (auto const* const item : items)
-        ExpandAround(*context_, item, done);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        auto const isSibling = i > 0 && i < parents.size() && parents[i] == parents[i - 1];
+        if (isSibling && lifetime.HostRuns() == runs)
+            continue;
+        runs = lifetime.HostRuns();
+        ExpandAround(*context_, items[i], runsBefore, done);
+    }
 }
 
 void zbBrowserView::ExpandAscendants(zbIBrowserViewItem const* item) const {
     CallScope const scope(context_->Lifetime());
     Folders done;
-    ExpandAround(*context_, item, done);
+    ExpandAround(*context_, item, context_->Lifetime().HostRuns(), done);
 }
 
 void zbBrowserView::ExpandAllItems() {

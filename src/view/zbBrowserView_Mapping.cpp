@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: MIT
 // From data items to view items and back, and the selection traffic.
-#include "items/old/FolderWalk.h"
-#include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "items/old/zbBrowserViewItemDataLeaf.h"
-#include "items/old/zbBrowserViewItemVirtualRoot.h"
 #include "selection/zbBrowserSelectionManager.h"
-#include "view/OldViewContext.h"
+#include "view/EventWalk.h"
 #include "view/zbBrowserView_Guarded.h"
 
 #include <zbBrowserView/host/zbIBrowserDataItemHierarchical.h>
 #include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
 #include <zbBrowserView/zbBrowserView.h>
 
+#include <map>
+#include <unordered_map>
+
+using zbbrowser::detail::BusyPath;
 using zbbrowser::detail::CallScope;
+using zbbrowser::detail::FolderIndex;
+using zbbrowser::detail::RequireHolders;
+using zbbrowser::detail::VisitContents;
+using zbbrowser::detail::WalkContents;
 using zbbrowser::detail::WalkFolders;
 
 using Items = std::vector<zbIBrowserViewItem*>;
@@ -87,6 +92,7 @@ void zbBrowserView::AppendDescendentDataItems(TreeItems& out, TreeItems const& i
         auto* const tree = item == nullptr ? nullptr : item->GetDataSource();
         if (tree == nullptr)
             continue;
+        context_->Lifetime().NoteHostRun();
         TreeItems below;
         tree->GetChildren(item, below, nullptr, true);
         found.insert(found.end(), below.begin(), below.end());
@@ -103,12 +109,15 @@ bool zbBrowserView::GetSelectionTypes(Items const&, std::vector<zbIBrowserDataSo
 
 void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemSimple* item, Items& found,
                                               Items& parents) {
+    if (item != nullptr)
+        AppendRowsOf(item, item->GetDataSource(), found, parents);
+}
+
+void zbBrowserView::AppendRowsOf(zbIBrowserDataItemSimple* item, zbIBrowserDataSource const* source,
+                                 Items& found, Items& parents) {
     CallScope const scope(context_->Lifetime());
-    WalkFolders(*root_, [&](zbBrowserViewItemFreeFolder& folder) {
-        if (folder.IsBusy())
-            return false;
-        folder.RequireHolder().GetViewItems(item, found, parents);
-        return true;
+    VisitContents(*root_, source, [&](zbBrowserFreeFolderContentHolder& holder) {
+        holder.GetViewItems(item, found, parents);
     });
 }
 
@@ -123,39 +132,65 @@ void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemHierarchical* it
     });
 }
 
-Items zbBrowserView::ItemsOf(SimpleItems const& simple, TreeItems const& hierarchical) {
+Items zbBrowserView::ItemsOf(ItemsBySource const& simple, TreeItems const& hierarchical,
+                             Items& parents) {
+    RequireHolders(*root_);
     Items found;
+    AppendRowsOf(simple, found, parents);
+    if (hierarchical.empty())
+        return found;
     Items ofTrees;
-    Items parents;
     std::set<zbIBrowserDataItemHierarchical*> const wanted(hierarchical.begin(),
                                                            hierarchical.end());
-    WalkFolders(*root_, [&](zbBrowserViewItemFreeFolder& folder) {
-        if (folder.IsBusy())
-            return false;
-        folder.RequireHolder().ForEach([&](zbBrowserFreeFolderContent& content) {
-            content.GetViewItems(simple, found, parents);
-        });
-        folder.RequireHolder().WithTree().GetViewItemsFromDataSet(wanted, ofTrees, parents);
-        return true;
+    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
+        holder.WithTree().GetViewItemsFromDataSet(wanted, ofTrees, parents);
     });
     found.insert(found.end(), ofTrees.begin(), ofTrees.end());
     return found;
 }
 
+// The rows of a folder come in their own order, so a folder of several sources asks for the items
+// of all of them at once.
+void zbBrowserView::AppendRowsOf(ItemsBySource const& simple, Items& found, Items& parents) {
+    std::map<zbBrowserViewItemFreeFolder*, std::vector<SimpleItems const*>, FolderIndex::Before>
+        wanted;
+    for (auto const& [source, items] : simple) {
+        std::vector<zbBrowserViewItemFreeFolder*> folders;
+        context_->Folders().AppendTo(source, folders);
+        for (auto* const folder : folders)
+            wanted[folder].push_back(&items);
+    }
+    BusyPath path;
+    for (auto const& [folder, lists] : wanted) {
+        if (!path.Enter(*folder))
+            continue;
+        SimpleItems joined;
+        for (std::size_t i = 0; lists.size() > 1 && i < lists.size(); ++i)
+            joined.insert(joined.end(), lists[i]->begin(), lists[i]->end());
+        auto const& items = lists.size() > 1 ? joined : *lists.front();
+        folder->RequireHolder().ForEach([&](zbBrowserFreeFolderContent& content) {
+            content.GetViewItems(items, found, parents);
+        });
+        path.Leave();
+    }
+}
+
 // What the data side selects
 
-SimpleItems zbBrowserView::ConnectedItems(SimpleItems const& items) const {
-    SimpleItems connected;
-    connected.reserve(items.size());
-    zbIBrowserDataSourceSimple const* lastConnected = nullptr;
+zbBrowserView::ItemsBySource zbBrowserView::ConnectedItems(SimpleItems const& items) const {
+    ItemsBySource connected;
+    std::unordered_map<zbIBrowserDataSourceSimple const*, std::size_t> places;
+    std::size_t place = 0; // Items of one source mostly come together
     for (auto* const item : items) {
         auto const* const source = item == nullptr ? nullptr : item->GetDataSource();
-        if (source == nullptr)
+        if (GetDataSourceSimple(source) == nullptr)
             continue;
-        if (source != lastConnected && GetDataSourceSimple(source) == nullptr)
-            continue;
-        lastConnected = source;
-        connected.push_back(item);
+        if (connected.empty() || connected[place].first != source) {
+            place = places.try_emplace(source, connected.size()).first->second;
+            if (place == connected.size())
+                connected.emplace_back(source, SimpleItems());
+        }
+        connected[place].second.push_back(item);
     }
     return connected;
 }
@@ -198,7 +233,7 @@ void zbBrowserView::OnDataItemsDeselected(std::vector<zbIBrowserDataItem*> const
 }
 
 // Rows of trees are made when they are needed, so they are all made before one is looked for.
-void zbBrowserView::DataItemsSelected(SimpleItems const& simple, TreeItems const& hierarchical,
+void zbBrowserView::DataItemsSelected(ItemsBySource const& simple, TreeItems const& hierarchical,
                                       bool clear) {
     Guarded([&] {
         if (!hierarchical.empty()) {
@@ -207,8 +242,9 @@ void zbBrowserView::DataItemsSelected(SimpleItems const& simple, TreeItems const
                 return true;
             });
         }
-        auto found = ItemsOf(simple, hierarchical);
-        ExpandAscendants(found);
+        Items parents;
+        auto found = ItemsOf(simple, hierarchical, parents);
+        ExpandAscendants(found, parents);
         if (context_->Lifetime().HasHostRun())
             std::erase_if(found, [this](auto const* item) { return !context_->Owns(item); });
         context_->Selection().Update(found, true, clear);
@@ -221,8 +257,12 @@ void zbBrowserView::DataItemsSelected(SimpleItems const& simple, TreeItems const
     });
 }
 
-void zbBrowserView::DataItemsDeselected(SimpleItems const& simple, TreeItems const& hierarchical) {
-    Guarded([&] { context_->Selection().Update(ItemsOf(simple, hierarchical), false, false); });
+void zbBrowserView::DataItemsDeselected(ItemsBySource const& simple,
+                                        TreeItems const& hierarchical) {
+    Guarded([&] {
+        Items parents;
+        context_->Selection().Update(ItemsOf(simple, hierarchical, parents), false, false);
+    });
 }
 
 // Forwarded to the selection manager
@@ -269,7 +309,7 @@ void zbBrowserView::DeselectAllViewItems() {
 
 void zbBrowserView::SelectViewItem(zbIBrowserViewItem* item, bool select, bool recursive) {
     if (select)
-        context_->Selection().Update({item}, true, false);
+        context_->Selection().UpdateSelection({item}, true, false);
     else
         DeselectViewItem(item, recursive);
 }

@@ -2,6 +2,8 @@
 //! \file
 //! What the elements of styles are bound to.
 #include "ColumnsTest.h"
+#include "presentation/columns/ViewColumn.h"
+#include "presentation/columns/zbBrowserViewColumn.h"
 
 namespace zbtest {
 namespace {
@@ -50,6 +52,23 @@ TYPED_TEST(ElementBindingsTest, AnElementWithoutAPropertyReadsNothing) {
     EXPECT_EQ(element->GetDataProperty(&this->host.Source("part")), nullptr);
 }
 
+TYPED_TEST(ElementBindingsTest, APropertyOfAnotherViewIsBoundAndNotTakenAway) {
+    auto* const element = this->style.CreateElement("a", "A");
+    auto& other = this->OtherView();
+    other.CreateViewProperty("p");
+    auto* const foreign = other.FindViewProperty("p");
+    auto& part = this->host.Source("part");
+    ASSERT_TRUE(other.CreateVPConnect(foreign, &part, &part.Property("name")));
+
+    EXPECT_TRUE(element->SetViewProperty(foreign));
+    EXPECT_EQ(element->GetDataProperty(&part), &part.Property("name"));
+    EXPECT_FALSE(this->view.DeleteViewProperty(foreign));
+    other.DeleteViewProperty(foreign);
+
+    EXPECT_EQ(element->GetViewProperty(), foreign);
+    EXPECT_EQ(element->GetDataProperty(&part), nullptr) << "a deleted one reads nothing";
+}
+
 TYPED_TEST(ElementBindingsTest, ADeletedPropertyIsTakenFromAllElements) {
     auto& property = this->Property("p");
     auto& other = this->Property("q");
@@ -91,6 +110,20 @@ TYPED_TEST(ElementBindingsTest, AManagerTakesAPropertyFromTheElementsOfItsOwnSty
 
     EXPECT_EQ(own->GetViewProperty(), nullptr);
     EXPECT_EQ(other->GetViewProperty(), &property);
+}
+
+TYPED_TEST(ElementBindingsTest, AColumnPassesOnWhatIsDeletedToItsManager) {
+    auto& property = this->Property("p");
+    auto* const element = this->style.CreateElement("a", "A");
+    element->SetViewProperty(&property);
+    element->SetGuiMapName("icons");
+    auto& passing = *this->view.FindScriptedColumn(&this->column);
+
+    passing.OnViewPropertyDeleted(&property);
+    passing.OnGuiMapDeleted("icons");
+
+    EXPECT_EQ(element->GetViewProperty(), nullptr);
+    EXPECT_STREQ(element->GetGuiMapName(), "");
 }
 
 TYPED_TEST(ElementBindingsTest, ADeletedGuiMapIsTakenFromTheElementsThatNameItExactly) {

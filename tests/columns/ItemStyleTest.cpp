@@ -168,7 +168,7 @@ TYPED_TEST(ItemStyleTest, ASlotMayDeleteTheView) {
     this->signals.Once(&zbBrowserSignalManager::StyleCreated,
                        [&](auto*) { this->host.DeleteView(this->view); });
 
-    this->view.GetViewItemStyle(&this->column, &this->row);
+    EXPECT_EQ(this->view.GetViewItemStyle(&this->column, &this->row), nullptr);
 
     EXPECT_EQ(this->host.Controller().FindView("view"), nullptr);
     this->signals.Discard();

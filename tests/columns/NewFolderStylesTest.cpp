@@ -7,6 +7,9 @@
 #include "presentation/columns/ViewColumn.h"
 #include "view/NewViewContext.h"
 
+#include <functional>
+#include <utility>
+
 namespace zbtest {
 namespace {
 
@@ -74,6 +77,76 @@ TEST_F(NewFolderStylesTest, AFlagIsTakenBackSilently) {
     EXPECT_EQ(StyleOf(bolt), "default_style");
     EXPECT_THAT(signals.take(), IsEmpty());
     EXPECT_EQ(host.calls.Count("ClearDirty"), 0U);
+}
+
+TEST_F(NewFolderStylesTest, OfTwoStylesThatClaimASourceTheOneAtTheHigherAddressWins) {
+    GiveStyle("first");
+    Column().SetFolderDataSourceStyle(&shown, &part, true);
+    GiveStyle("second");
+    Column().SetFolderDataSourceStyle(&shown, &part, true);
+
+    auto const* const first = Column().FindStyle("first");
+    auto const* const second = Column().FindStyle("second");
+    EXPECT_EQ(StyleOf(bolt), std::less<>()(first, second) ? "second" : "first");
+}
+
+TEST_F(NewFolderStylesTest, AClaimThatWasTakenBackDoesNotWin) {
+    GiveStyle("first");
+    GiveStyle("second");
+    auto* lower = Column().FindStyle("first");
+    auto* higher = Column().FindStyle("second");
+    if (std::less<>()(higher, lower)) {
+        std::swap(lower, higher);
+    }
+    Column().SetCurrentStyle(lower);
+    Column().SetFolderDataSourceStyle(&shown, &part, true);
+    Column().SetCurrentStyle(higher);
+    Column().SetFolderDataSourceStyle(&shown, &part, false);
+
+    EXPECT_EQ(StyleOf(bolt), lower->GetName());
+}
+
+TEST_F(NewFolderStylesTest, WithoutTheCurrentStyleInTheFolderNothingHappens) {
+    EXPECT_FALSE(Column().SetFolderDataSourceStyle(&shown, &part, true));
+    GiveStyle("fancy");
+    MakeStyle(Column(), "elsewhere");
+
+    EXPECT_FALSE(Column().SetFolderDataSourceStyle(&shown, &part, true));
+    EXPECT_FALSE(Column().SetFolderDataSourceStyle(&shown, nullptr, true));
+    EXPECT_FALSE(Column().SetFolderDataSourceStyle(nullptr, &part, true));
+
+    EXPECT_EQ(StyleOf(bolt), "default_style");
+}
+
+TEST_F(NewFolderStylesTest, AStyleThatIsDeletedLeavesTheFolders) {
+    GiveStyle("fancy");
+    Column().SetFolderDataSourceStyle(&shown, &part, true);
+
+    Column().DeleteStyle(Column().FindStyle("fancy"));
+
+    EXPECT_EQ(StyleOf(bolt), "default_style");
+}
+
+TEST_F(NewFolderStylesTest, AStyleThatTheHostFreesLeavesTheFolders) {
+    GiveStyle("fancy");
+    Column().SetFolderDataSourceStyle(&shown, &part, true);
+
+    delete Column().FindStyle("fancy");
+
+    EXPECT_EQ(StyleOf(bolt), "default_style");
+}
+
+TEST_F(NewFolderStylesTest, WithoutAControllerNoFolderIsGivenAStyle) {
+    zbbrowser::detail::NewViewContext lonely(view, nullptr);
+    lonely.SetColumns(std::make_unique<zbbrowser::detail::ColumnSet>(lonely));
+    lonely.Columns()->CreateDefault();
+    FolderWithSource folder(lonely, part);
+    auto& column = *lonely.Columns()->Default();
+    MakeStyle(column, "fancy");
+
+    EXPECT_FALSE(column.AddFolderStyle(&folder));
+
+    EXPECT_FALSE(lonely.Columns()->DefaultImpl()->RemoveFolderStyles(&folder));
 }
 
 TEST_F(NewFolderStylesTest, ASourceIsFoundByItselfAndNotByItsName) {

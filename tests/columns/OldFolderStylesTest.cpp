@@ -301,6 +301,20 @@ TEST_F(OldFolderStylesTest, ASlotMayDeleteTheViewWhileItIsDrawnAgain) {
     signals.Discard();
 }
 
+TEST_F(OldFolderStylesTest, TheSourceMayDeleteTheViewWhenItIsMarked) {
+    FolderStyle("fancy");
+    host.calls.On("ClearDirty", "part", [&] {
+        if (host.Controller().FindView("view") != nullptr) {
+            host.DeleteView(view);
+        }
+    });
+
+    EXPECT_FALSE(Default().SetFolderDataListStyle(&folder, &part, true));
+
+    EXPECT_EQ(host.Controller().FindView("view"), nullptr);
+    signals.Discard();
+}
+
 TEST_F(OldFolderStylesTest, TheSourceMayDeleteTheFolderWhenItIsAskedForItsName) {
     FolderStyle("fancy");
     host.calls.On("GetName", "spare", [&] {

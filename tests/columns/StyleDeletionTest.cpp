@@ -179,6 +179,16 @@ TEST_F(OldStyleDeletionTest, AStyleDeletedByNameIsAnnouncedAfterItHasLeftTheList
     EXPECT_EQ(Current(), nullptr);
 }
 
+TEST_F(OldStyleDeletionTest, TheSlotThatHearsOfAStyleDeletedByNameMayFreeIt) {
+    MakeKnownStyle(column, "plain");
+    signals.Once(&Signals::StyleDeleted, [](auto* deleted) { delete deleted; });
+
+    EXPECT_TRUE(Manager().DeleteStyleByName("plain"));
+
+    EXPECT_THAT(StyleNames(column), IsEmpty());
+    signals.Discard();
+}
+
 TEST_F(OldStyleDeletionTest, APendingStyleIsDeletedByNameSilently) {
     MakeStyle(column, "plain");
 

@@ -127,6 +127,17 @@ TYPED_TEST(StyleElementsTest, ASlotMayDeleteTheColumnThatAnElementIsAddedTo) {
     this->signals.Discard();
 }
 
+TYPED_TEST(StyleElementsTest, NothingIsAddedToAStyleOfAViewThatASlotDeletes) {
+    this->style.SetPending(false);
+    this->signals.Once(&zbBrowserSignalManager::StyleDeleted,
+                       [&](auto*) { this->host.DeleteView(this->view); });
+
+    EXPECT_EQ(this->style.CreateElement("a", "A"), nullptr);
+
+    EXPECT_EQ(this->host.Controller().FindView("view"), nullptr);
+    this->signals.Discard();
+}
+
 TYPED_TEST(StyleElementsTest, AStyleWhoseSlotThrowsIsLeftAsItWas) {
     this->style.SetPending(false);
     this->signals.Once(&zbBrowserSignalManager::StyleDeleted,
@@ -304,6 +315,24 @@ TYPED_TEST(StyleElementsTest, TheViewRefusesElementsOfAColumnThatHasGone) {
     this->view.DeleteScriptedColumn(&this->column);
 
     EXPECT_FALSE(this->view.DeleteStyleElement(element));
+    this->signals.Discard();
+}
+
+TYPED_TEST(StyleElementsTest, AColumnThatASlotDeletedHasGoneForTheSlotToo) {
+    auto* const element = this->style.CreateElement("a", "A");
+    auto& folder = *this->view.GetRootFreeFolder();
+    bool bold = true;
+    bool found = true;
+    this->signals.Once(&zbBrowserSignalManager::ColumnCaptionChanged, [&](auto* changed) {
+        this->view.DeleteScriptedColumn(changed);
+        found = this->view.DeleteStyleElement(element) ||
+                this->view.IsTextBold(&folder, element, bold) ||
+                this->view.IsTextItalic(&folder, element, bold);
+    });
+
+    this->column.SetTitle("Weight");
+
+    EXPECT_FALSE(found);
     this->signals.Discard();
 }
 

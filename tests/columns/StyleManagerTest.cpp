@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! The list of styles of a column.
+#include "presentation/columns/ColumnBase.h"
+#include "presentation/columns/ColumnSet.h"
 #include "presentation/styles/zbBrowserStyleManager.h"
 #include "StylesTest.h"
 
@@ -72,13 +74,21 @@ TYPED_TEST(StyleManagerTest, NamesDifferByCase) {
     EXPECT_EQ(this->Default().FindStyle("Default_Style"), nullptr);
 }
 
-TYPED_TEST(StyleManagerTest, NamesMayBeEmptyLongAndNotUtf8) {
+TYPED_TEST(StyleManagerTest, NamesMayBeLongAndNotUtf8) {
     std::string const longName(100'000, 'x');
-    EXPECT_TRUE(this->column.CreateStyle(""));
     EXPECT_TRUE(this->column.CreateStyle("\xff\xc0"));
     EXPECT_TRUE(this->column.CreateStyle(longName.c_str()));
 
-    EXPECT_THAT(StyleNames(this->column), ElementsAre("", "\xff\xc0", longName));
+    EXPECT_THAT(StyleNames(this->column), ElementsAre("\xff\xc0", longName));
+}
+
+TYPED_TEST(StyleManagerTest, AStyleNeedsAName) {
+    EXPECT_FALSE(this->column.CreateStyle(nullptr));
+    EXPECT_FALSE(this->column.CreateStyle(""));
+
+    EXPECT_TRUE(this->Manager().GetState());
+    EXPECT_EQ(this->column.FindStyle(nullptr), nullptr);
+    EXPECT_THAT(StyleNames(this->column), IsEmpty());
 }
 
 TYPED_TEST(StyleManagerTest, TwoColumnsMayHaveStylesOfOneName) {
@@ -119,6 +129,37 @@ TYPED_TEST(StyleManagerTest, NoOtherStyleCanBeMadeCurrent) {
     EXPECT_FALSE(this->column.SetCurrentStyle(&deleted));
     EXPECT_FALSE(this->column.SetCurrentStyle(freed));
     EXPECT_EQ(this->Current(), &plain);
+}
+
+//! A controller of a host that wants to know of styles before the slots do.
+class ListeningController final : public zbBrowserViewCtrl {
+public:
+    ListeningController()
+        : zbBrowserViewCtrl(nullptr) {}
+
+    Names heard;
+
+    void OnStyleCreated(zbIBrowserStyle* style) override {
+        heard.push_back(std::string("created ") + style->GetName());
+    }
+    void OnStyleDeleted(zbIBrowserStyle* style) override {
+        heard.push_back(std::string("deleted ") + style->GetName());
+    }
+};
+
+TYPED_TEST(StyleManagerTest, StylesAreAnnouncedByTheController) {
+    ListeningController controller;
+    typename TestFixture::Context context(this->view, &controller);
+    context.SetColumns(std::make_unique<zbbrowser::detail::ColumnSet>(context));
+    auto& listened = *context.Columns()->Add("listened");
+    auto& style = MakeStyle(listened, "plain");
+    ItemDouble row(&this->view);
+
+    listened.GetViewItemStyle(&row);
+    style.SetPending(false);
+    listened.DeleteStyle(&style);
+
+    EXPECT_THAT(controller.heard, ElementsAre("created plain", "deleted plain"));
 }
 
 // Differences

@@ -18,7 +18,6 @@ protected:
         part.SetSortProperty(nullptr);
         host.calls.Record(true);
     }
-    ~DependentLists() override { zbbrowser::detail::SetCurrentSortProperty(nullptr); }
 
     void SortBy(zbIBrowserViewColumn& column) { host.View().SetAscendingOrder(&column, true); }
     void SetCustomProperty(char const* name) {

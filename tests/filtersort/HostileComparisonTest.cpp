@@ -11,6 +11,8 @@ using testing::ElementsAre;
 using testing::Gt;
 using testing::IsEmpty;
 using testing::UnorderedElementsAreArray;
+using zbbrowser::detail::CurrentSortProperty;
+using zbbrowser::detail::SetCurrentSortProperty;
 using zbtest::Names;
 
 class HostileComparison : public zbtest::SortedRowsTest {
@@ -151,6 +153,66 @@ TEST_F(HostileComparison, TheViewMayGoWhileRowsAreSorted) {
 
     EXPECT_THAT(out, IsEmpty());
     EXPECT_EQ(host.Controller().FindView("view"), nullptr);
+}
+
+TEST_F(HostileComparison, AnotherSourceMayGoWhileRowsAreSorted) {
+    auto& tool = host.Source("tool").Items({"saw", "file"});
+    view.DataSourceConnect(&tool);
+    view.CreateList(&box, &tool, false);
+    SortBy(standard);
+    DuringAComparison([&] {
+        view.DataSourceDisconnect("tool");
+        host.Control().DeleteSource("tool");
+    });
+
+    EXPECT_THAT(Rows(), ElementsAre("nut", "bolt", "pin", "axle"));
+    EXPECT_THAT(Rows(), ElementsAre("axle", "bolt", "nut", "pin"));
+}
+
+TEST_F(HostileComparison, TheViewOfTheCurrentSortPropertyMayGoWhileRowsAreSorted) {
+    auto& other = host.OldView("other");
+    other.CreateViewProperty("mass");
+    SetCurrentSortProperty(other.FindViewProperty("mass"));
+    other.CreateVPConnect(CurrentSortProperty(), &part, &part.Property("weight"));
+    SortBy(empty);
+    host.calls.On("GetDataCtrl", "part", [&] {
+        host.calls.Off("GetDataCtrl", "part");
+        host.DeleteView(other);
+    });
+
+    EXPECT_THAT(Rows(), ElementsAre("nut", "bolt", "pin", "axle")) << "that sort was given up";
+    EXPECT_THAT(Rows(), ElementsAre("axle", "bolt", "nut", "pin"));
+}
+
+TEST_F(HostileComparison, ADirectionThatIsFlippedWhileRowsAreSortedHolds) {
+    SortBy(standard);
+    DuringAComparison([&] { SortBy(standard, false); });
+
+    EXPECT_THAT(Rows(), ElementsAre("pin", "nut", "bolt", "axle"));
+}
+
+TEST_F(HostileComparison, RowsOfASortThatIsEndedMeanwhileComeAsTheyAreStored) {
+    SortBy(standard, false);
+    DuringAComparison([&] { view.GetSortHandlerPtr()->ResetSortedColumn(); });
+
+    EXPECT_THAT(Rows(), ElementsAre("nut", "bolt", "pin", "axle"));
+}
+
+TEST_F(HostileComparison, TheHandlerLeavesAListAloneIfTheSortedColumnChangesMeanwhile) {
+    std::vector<zbIBrowserViewItem*> rows;
+    view.GetChildren(rows, &box);
+    auto const before = rows;
+    auto& handler = *view.GetSortHandlerPtr();
+    for (auto const sort :
+         {&zbBrowserSortHandler::SortDependentFolderLeaves,
+          static_cast<bool (zbBrowserSortHandler::*)(std::vector<zbIBrowserViewItem*>&)>(
+              &zbBrowserSortHandler::SortDataItems)}) {
+        SortBy(standard);
+        DuringAComparison([&] { handler.SetAscendingOrder(&byWeight, true); });
+
+        EXPECT_FALSE((handler.*sort)(rows));
+        EXPECT_EQ(rows, before);
+    }
 }
 
 TEST_F(HostileComparison, AListThatIsReadWhileItIsSortedIsGivenAsItIsStored) {

@@ -72,9 +72,8 @@ TEST_F(RowSorts, APreparedOrderHasNoOrderBelowItsFirstKey) {
         << "the name tells them apart, so identity is not asked";
 }
 
-TEST_F(RowSorts, AnAnswerOfTheDataControlIsFinalAlsoForOneSource) {
+TEST_F(RowSorts, TheDataControlOrdersSourcesBeforeAnyOtherKeyWhereThatKeyIsTried) {
     host.Control().sourceOrder = {&part, &tool};
-    host.calls.Record(true);
 
     EXPECT_THAT(Sorted({"nut", "saw", "bolt", "file"}, RowOrder::Default),
                 ElementsAre("bolt", "nut", "file", "saw"));
@@ -195,6 +194,29 @@ TEST_F(RowSorts, ASortIsGivenUpWhenSomethingOfTheViewGoes) {
 
     EXPECT_EQ(NamesOf(items), (Lines{"pin", "nut", "bolt", "axle"}));
     EXPECT_EQ(host.calls.Count("CompareByName"), 0U) << "the host is asked no more";
+}
+
+TEST_F(RowSorts, ASortIsGivenUpWhenTheViewIsSortedByAnotherColumn) {
+    auto items = ItemsOf({"pin", "nut", "bolt", "axle"});
+    host.calls.On("CompareDataSources", [&] {
+        host.OldView().GetSortHandlerPtr()->SetAscendingOrder(host.View().GetDefaultColumn(), true);
+    });
+
+    EXPECT_FALSE(Sort(items, RowOrder::Default));
+
+    EXPECT_EQ(NamesOf(items), (Lines{"pin", "nut", "bolt", "axle"}));
+    EXPECT_EQ(host.calls.Count("CompareByName"), 0U) << "the host is asked no more";
+}
+
+TEST_F(RowSorts, AChangeOfTheCurrentSortPropertyGivesUpTheSortsThatUseIt) {
+    auto items = ItemsOf({"bolt", "nut"});
+    host.calls.On("CompareDataSources", [] { zbbrowser::detail::SetCurrentSortProperty(nullptr); });
+
+    EXPECT_FALSE(Sort(items, RowOrder::Column));
+    EXPECT_EQ(NamesOf(items), (Lines{"bolt", "nut"}));
+    viewProperty = nullptr;
+
+    EXPECT_TRUE(Sort(items, RowOrder::Default));
 }
 
 TEST_F(RowSorts, ASortIsGivenUpWhenTheViewGoesWhileRowsAreLookedAt) {

@@ -4,7 +4,9 @@
 #pragma once
 
 #include "control/ItemDoubles.h"
+#include "filtersort/CurrentSortProperty.h"
 #include "filtersort/RowSort.h"
+#include "filtersort/zbBrowserSortHandler.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
 #include "SortTest.h"
 #include "view/OldViewContext.h"
@@ -50,6 +52,7 @@ protected:
         EXPECT_TRUE(host.OldView().CreateVPConnect(viewProperty, &part, &part.Property("weight")));
         host.calls.ForgetCounts();
     }
+    ~RowSortTest() override { zbbrowser::detail::SetCurrentSortProperty(nullptr); }
 
     zbbrowser::detail::ViewContext& Context() { return host.OldView().GetVirtualRoot()->Context(); }
     zbIBrowserViewItemFreeFolder& NewFolder() {
@@ -79,7 +82,10 @@ protected:
 
     bool Sort(Items& items, zbbrowser::detail::RowOrder order, std::size_t sorted = 0) {
         zbbrowser::detail::CallScope const scope(Context().Lifetime());
-        return zbbrowser::detail::RowSort(Context(), viewProperty).Run(items, sorted, order);
+        zbbrowser::detail::SetCurrentSortProperty(viewProperty);
+        auto const& handler = *host.OldView().GetSortHandlerPtr();
+        return zbbrowser::detail::RowSort(Context(), handler, viewProperty)
+            .Run(items, sorted, order);
     }
     Lines Sorted(Lines const& names, zbbrowser::detail::RowOrder order) {
         auto items = ItemsOf(names);

@@ -95,6 +95,17 @@ TYPED_TEST(SortedFoldersTest, FoldersAreSortedByNameWhateverTheSortedColumn) {
     EXPECT_THAT(this->Folders(true, true), ElementsAre("a", "b"));
 }
 
+class OldSortedFoldersTest : public SortedFoldersTest<zbtest::OldGeneration> {};
+
+TEST_F(OldSortedFoldersTest, FoldersOfOneNameKeepTheirOrderAndTurnRoundDescending) {
+    LetSort();
+    for (auto const* const name : {"b", "B", "a"})
+        view.CreateFreeFolder(&root, name);
+
+    EXPECT_THAT(Folders(true, true), ElementsAre("a", "b", "B"));
+    EXPECT_THAT(Folders(true, false), ElementsAre("B", "b", "a"));
+}
+
 //! What the handler lists of the root of a new view.
 class NewSortedFoldersTest : public SortedFoldersTest<zbtest::NewGeneration> {
 protected:
@@ -131,6 +142,12 @@ TEST_F(NewSortedFoldersTest, FoldersFollowTheDirectionUnderAnyColumn) {
     EXPECT_THAT(Children(), ElementsAre("c", "b", "a"));
 }
 
+TEST_F(NewSortedFoldersTest, FoldersAreSortedWithoutAHandlerToo) {
+    view.DeleteSortHandler();
+
+    EXPECT_THAT(Folders(true, true), ElementsAre("a", "b", "c"));
+}
+
 TEST_F(NewSortedFoldersTest, AFolderOfAnotherViewIsRefused) {
     auto& other = host.NewView("other");
     std::vector<zbIBrowserViewItem*> out{&root};
@@ -144,6 +161,27 @@ TEST_F(NewSortedFoldersTest, AFolderOfAnotherViewIsRefused) {
 
     EXPECT_EQ(thrown, "Attempt to operate on object belonging to different manager");
     EXPECT_THAT(out, IsEmpty()) << "it is cleared before the view is looked at";
+}
+
+//! A folder that is hidden and lists itself.
+class HiddenFolder final : public zbbrowser::ViewItemFreeFolder {
+public:
+    using ViewItemFreeFolder::ViewItemFreeFolder;
+    bool IsHidden() const override { return true; }
+    bool GetChildFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& out, bool, bool) override {
+        out = {this};
+        return true;
+    }
+};
+
+TEST_F(NewSortedFoldersTest, HiddenFoldersAreLeftOut) {
+    zbbrowser::detail::NewViewContext context(view, nullptr);
+    HiddenFolder folder(context, nullptr, "hidden");
+    std::vector<zbIBrowserViewItem*> out;
+
+    EXPECT_TRUE(handler.GetChildren(folder, out));
+
+    EXPECT_THAT(out, IsEmpty());
 }
 
 //! A folder that cannot list its child folders.

@@ -146,6 +146,16 @@ TEST_F(SortedRows, AColumnThatTheHostMarksAsUnsortedSortsAnew) {
     EXPECT_THAT(Rows(), ElementsAre("bolt", "nut", "pin", "zip"));
 }
 
+TEST_F(SortedRows, TheFirstSortOfTheViewByAColumnThatTheHandlerWasGivenSortsAnew) {
+    view.GetSortHandlerPtr()->SetAscendingOrder(&standard, true);
+    Rows();
+    part["axle"].Rename("zip");
+
+    SortBy(standard);
+
+    EXPECT_THAT(Rows(), ElementsAre("bolt", "nut", "pin", "zip"));
+}
+
 TEST_F(SortedRows, WithoutASortedColumnRowsStayAsTheyWereLastSorted) {
     SortBy(standard, false);
     Rows();
@@ -224,143 +234,6 @@ TEST_F(SortedRows, AListOfOneRowIsNotCompared) {
 
     EXPECT_THAT(Rows(), ElementsAre("nut"));
     EXPECT_EQ(Comparisons(), 0U);
-}
-
-// New rows
-
-TEST_F(SortedRows, ANewRowIsSortedInWhenTheListIsNextRead) {
-    SortBy(byWeight);
-    Rows();
-
-    Create("gear", 6);
-
-    EXPECT_THAT(StoredRows(), ElementsAre("nut", "pin", "axle", "bolt", "gear"));
-    EXPECT_THAT(Rows(), ElementsAre("nut", "pin", "gear", "axle", "bolt"));
-}
-
-TEST_F(SortedRows, NewRowsStandBehindOldOnesThatAreEqual) {
-    SortBy(standard);
-    Rows();
-    part.compares = false;
-
-    Create("a", 1);
-    Create("b", 1);
-
-    EXPECT_THAT(Rows(), ElementsAre("axle", "bolt", "nut", "pin", "a", "b"));
-}
-
-TEST_F(SortedRows, RowsThatAreSortedAreNotComparedWithEachOtherWhenSomeCome) {
-    for (int i = 0; i < 1000; ++i)
-        Create(std::to_string(100'000 + i * 7919 % 1000).c_str(), 0);
-    SortBy(standard);
-    Rows();
-    Comparisons();
-
-    Create("100499", 0);
-    Create("lug", 0);
-
-    auto const rows = Rows();
-    EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end()));
-    EXPECT_THAT(Comparisons(), Le(60U));
-}
-
-TEST_F(SortedRows, RowsThatGoLeaveTheRestSorted) {
-    SortBy(standard);
-    Rows();
-    Comparisons();
-
-    view.OnDataItemDeleted(&part["bolt"]);
-
-    EXPECT_THAT(Rows(), ElementsAre("axle", "nut", "pin"));
-    EXPECT_EQ(Comparisons(), 0U);
-}
-
-TEST_F(SortedRows, RowsMayComeAndGoBetweenTwoSorts) {
-    SortBy(standard);
-    Rows();
-
-    Create("cog", 1);
-    view.OnDataItemDeleted(&part["axle"]);
-    Create("anvil", 1);
-    view.OnDataItemDeleted(&part["cog"]);
-
-    EXPECT_THAT(Rows(), ElementsAre("anvil", "bolt", "nut", "pin"));
-}
-
-TEST_F(SortedRows, ADirtyRowIsSortedAnew) {
-    SortBy(standard);
-    Rows();
-    part["axle"].Rename("zip");
-    part["zip"].dirty = true;
-
-    view.OnAllDirtyDataItemsRebuild();
-
-    EXPECT_THAT(Rows(), ElementsAre("bolt", "nut", "pin", "zip"));
-}
-
-TEST_F(SortedRows, RenumberingASourceSortsAnew) {
-    SortBy(standard);
-    Rows();
-    part["axle"].Rename("zip");
-
-    view.OnDataSourceRenumbered(&part);
-
-    EXPECT_THAT(Rows(), ElementsAre("bolt", "nut", "pin", "zip"));
-}
-
-TEST_F(SortedRows, AllListsCanBeMarkedAsUnsorted) {
-    SortBy(standard);
-    Rows();
-    part["axle"].Rename("zip");
-    EXPECT_THAT(Rows(), ElementsAre("zip", "bolt", "nut", "pin"));
-
-    view.SetAllDataItemListsUnsorted();
-
-    EXPECT_THAT(Rows(), ElementsAre("bolt", "nut", "pin", "zip"));
-}
-
-TEST_F(SortedRows, MarkingAllListsGivesEachFolderItsContent) {
-    auto& unused = NewFolder(box, "unused");
-    ASSERT_EQ(view.FindFreeFolder(&unused)->Holder(), nullptr);
-
-    view.SetAllDataItemListsUnsorted();
-
-    EXPECT_NE(view.FindFreeFolder(&unused)->Holder(), nullptr);
-}
-
-TEST_F(SortedRows, ANewRowAfterTheColumnShowsSomethingElseSortsAllRowsAnew) {
-    SortBy(byWeight);
-    Rows();
-    std::vector<zbIBrowserStyleElement*> elements;
-    byWeight.FindStyle("cell")->GetElements(elements);
-    Bind("name", part, "name");
-
-    elements.front()->SetViewProperty(&Property("name"));
-    Create("gear", 6);
-
-    EXPECT_THAT(Rows(), ElementsAre("axle", "bolt", "gear", "nut", "pin"));
-}
-
-TEST_F(SortedRows, ANewRowAfterAnotherConnectionSortsAllRowsAnew) {
-    SortBy(byWeight);
-    Rows();
-
-    view.DeleteVPConnect(&Property("weight"), &part);
-    Bind("weight", part, "name");
-    Create("gear", 6);
-
-    EXPECT_THAT(Rows(), ElementsAre("axle", "bolt", "gear", "nut", "pin"));
-}
-
-TEST_F(SortedRows, ANewRowAfterTheHandlerWasGivenAnotherColumnSortsAllRowsAnew) {
-    SortBy(byWeight);
-    Rows();
-
-    view.GetSortHandlerPtr()->SetAscendingOrder(&standard, true);
-    EXPECT_THAT(Rows(), ElementsAre("nut", "pin", "axle", "bolt")) << "no list was marked";
-    Create("gear", 6);
-
-    EXPECT_THAT(Rows(), ElementsAre("axle", "bolt", "gear", "nut", "pin"));
 }
 
 // The property that is current for the whole process

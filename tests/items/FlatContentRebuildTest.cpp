@@ -2,6 +2,8 @@
 // Rebuilding, refreshing and redrawing rows directly in a folder.
 #include "FlatContentFixture.h"
 
+#include <algorithm>
+
 namespace {
 
 using testing::ElementsAre;
@@ -187,6 +189,25 @@ TEST_F(RedrawTest, RedrawSignalsEveryRowWhateverItsSourceWithinALongOperation) {
     EXPECT_THAT(recorder.take(),
                 ElementsAre("ViewItemChanged bolt", "ViewItemChanged nut", "ViewItemChanged pin",
                             "ViewItemChanged saw", "ViewItemChanged file"));
+}
+
+TEST_F(RebuildTest, OnlyTheDirtyRowsAreSortedAnewAfterARefresh) {
+    for (int i = 0; i < 1000; ++i)
+        part.Add(std::to_string(100'000 + i * 7919 % 1000));
+    content.RebuildList(&part, true);
+    View().SetAscendingOrder(View().GetDefaultColumn(), true);
+    Shown(folder);
+    part["100499"].dirty = true;
+    part["100499"].Rename("zinc");
+    host.calls.ForgetCounts();
+
+    content.RefreshListItems(&part, true);
+
+    auto const rows = Shown(folder);
+    EXPECT_EQ(rows.back(), "zinc");
+    EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end()));
+    EXPECT_THAT(host.calls.Count("CompareByName"), testing::Le(20U));
+    recorder.Discard();
 }
 
 } // namespace

@@ -224,6 +224,69 @@ TEST_F(LeafStoreTest, MarkAllGoneKeepsTheLeavesButTheyCountAsTakenOut) {
     EXPECT_THAT(store.Snapshot(), ElementsAre(&a));
 }
 
+// Order
+
+TEST_F(LeafStoreTest, ALeafThatLostItsPlaceStaysWhereItIsButComesBehindTheOrderedOnes) {
+    auto& a = Append(1);
+    auto& b = Append(2);
+    auto& c = Append(3);
+    store.Reorder({&c, &b, &a});
+    auto& late = Append(4);
+
+    store.ForgetOrder(c);
+
+    Items stored;
+    store.AppendAllTo(stored);
+    EXPECT_THAT(AsLeaves(stored), ElementsAre(&c, &b, &a, &late));
+    Items rows;
+    EXPECT_EQ(store.AppendOrderedFirst(rows), 2U);
+    EXPECT_THAT(AsLeaves(rows), ElementsAre(&b, &a, &c, &late));
+    EXPECT_FALSE(store.IsOrdered());
+}
+
+TEST_F(LeafStoreTest, AnOrderGivesAllTheirPlacesBack) {
+    auto& a = Append(1);
+    auto& b = Append(2);
+    auto& c = Append(3);
+    store.Reorder({&a, &b, &c});
+    store.ForgetOrder(b);
+    store.Reorder({&b, &a, &c});
+    Items rows;
+    EXPECT_TRUE(store.IsOrdered());
+    EXPECT_EQ(store.AppendOrderedFirst(rows), 3U);
+    EXPECT_THAT(AsLeaves(rows), ElementsAre(&b, &a, &c));
+}
+
+TEST_F(LeafStoreTest, LeavesThatLostTheirPlaceAreKnownWhenHolesAreClosed) {
+    Items order(200);
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order[i] = &Append(i);
+    store.Reorder(order);
+    store.ForgetOrder(*made[150]);
+    store.ForgetOrder(*made[160]);
+    store.Take(*made[160]);
+    for (std::size_t i = 0; i < 140; ++i)
+        store.Take(*made[i]);
+
+    Items rows;
+    EXPECT_EQ(store.AppendOrderedFirst(rows), 58U);
+    EXPECT_EQ(rows.back(), made[150].get());
+    EXPECT_EQ(std::set<zbIBrowserViewItem*>(rows.begin(), rows.end()).size(), 59U);
+}
+
+TEST_F(LeafStoreTest, WhenAllLeavesLostTheirPlaceTheyComeAsTheyAreStored) {
+    auto& a = Append(1);
+    auto& b = Append(2);
+    auto& c = Append(3);
+    store.Reorder({&c, &a, &b});
+    for (auto* const leaf : {&b, &a, &b, &b, &b, &a, &b, &c})
+        store.ForgetOrder(*leaf);
+
+    Items rows;
+    EXPECT_EQ(store.AppendOrderedFirst(rows), 0U);
+    EXPECT_THAT(AsLeaves(rows), ElementsAre(&c, &a, &b));
+}
+
 //! Against plain vectors: leaves come and go in phases, so that the store is compacted and its
 //! runs are built anew.
 TEST_F(LeafStoreTest, AgreesWithAVectorOverRandomOperations) {

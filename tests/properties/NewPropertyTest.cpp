@@ -38,6 +38,18 @@ TEST_F(NewPropertyTest, AValueKeepsItsKind) {
     EXPECT_EQ(out.GetDouble(), 2.5);
 }
 
+TEST_F(NewPropertyTest, AValueThatHasChangedItsKindIsReadAsItIsNow) {
+    auto& property = Holding(42);
+    property.SetDataType(ZBBROWSER_DATA_TYPE_INTEGER);
+    bolt.Set("value", "steel");
+    zbVariant out;
+
+    EXPECT_TRUE(property.GetValue(&row, out));
+
+    EXPECT_EQ(out.GetKind(), zbVariant::String);
+    EXPECT_EQ(out.GetString(), "steel");
+}
+
 TEST_F(NewPropertyTest, AScriptGivesATextOnceTheControlIsPositioned) {
     auto& property = Holding(1);
     property.SetScripts("", "get");

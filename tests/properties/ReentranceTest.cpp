@@ -3,6 +3,7 @@
 //! Scripts and data properties that call back, throw, or delete what is being read.
 
 #include "PropertiesTest.h"
+#include "support/SignalRecorder.h"
 
 #include <stdexcept>
 
@@ -142,14 +143,44 @@ TEST_F(OldPropertyReentranceTest, ASourceMayDeleteTheViewWhileItIsWrittenTo) {
     EXPECT_TRUE(property.SetIntegerValue(row, 1));
 }
 
-TEST_F(OldPropertyReentranceTest, ASourceMayDeleteTheViewWhileARowIsLookedUp) {
+TEST_F(OldPropertyReentranceTest, NothingIsReadOnceTheLookUpOfTheRowHasDeletedTheView) {
     auto* const row = Row();
-    host.calls.On("GetDataSource", [&] {
-        host.calls.Off("GetDataSource");
-        host.DeleteView(view);
-    });
+    host.calls.On("GetDataSource", [&] { host.DeleteView(view); });
 
-    EXPECT_EQ(StringOf(property, row), "bolt_1");
+    EXPECT_EQ(StringOf(property, row), "no");
+
+    EXPECT_EQ(host.calls.Count("GetString"), 0U);
+}
+
+TEST_F(OldPropertyReentranceTest, NothingIsWrittenOnceTheLookUpOfTheRowHasDeletedTheView) {
+    auto* const row = Row();
+    host.calls.On("GetDataSource", [&] { host.DeleteView(view); });
+
+    EXPECT_FALSE(property.SetIntegerValue(row, 1));
+
+    EXPECT_EQ(host.calls.Count("SetDataPropertyInteger"), 0U);
+}
+
+TEST_F(OldPropertyReentranceTest, ASetScriptThatThrowsLeavesThePropertyAsItWas) {
+    property.SetScripts("set", "");
+    host.calls.On(script, [] { throw std::runtime_error("script"); });
+
+    EXPECT_THROW(property.SetBooleanValue(&folder, true), std::runtime_error);
+
+    host.calls.Off(script);
+    EXPECT_EQ(StringOf(property, Row()), "bolt_1");
+}
+
+TEST_F(OldPropertyReentranceTest, ARowStillHasItsValuesWhileItsDeletionIsTold) {
+    std::string told;
+    zbtest::SignalRecorder recorder(host);
+    auto const handle = recorder.On(&zbBrowserSignalManager::ViewItemListDeleted,
+                                    [&](auto& rows) { told = StringOf(property, rows.at(0)); });
+
+    view.DeleteList(&folder, &part);
+
+    recorder.Discard();
+    EXPECT_EQ(told, "bolt_1");
 }
 
 // New views
@@ -175,6 +206,83 @@ TEST_F(NewPropertyReentranceTest, NothingIsWrittenOnceThePositioningHasDeletedTh
     EXPECT_FALSE(property.SetValue(&row, "text"));
 
     EXPECT_EQ(host.calls.Count("SetVariant"), 0U);
+}
+
+TEST_F(NewPropertyReentranceTest, NothingIsReadOnceTheLookUpOfTheRowHasDeletedTheView) {
+    host.calls.On("GetDataSource", [&] { host.DeleteView(view); });
+
+    EXPECT_EQ(ValueOf(property, &row), "no");
+
+    EXPECT_EQ(host.calls.Count("GetVariant"), 0U);
+}
+
+TEST_F(NewPropertyReentranceTest, AConnectionThatThePositioningTakesAwayIsNotRead) {
+    host.calls.On("SetCurrentDataItem", [&] { view.DeleteVPConnect(&property, &part); });
+
+    EXPECT_EQ(ValueOf(property, &row), "no");
+
+    EXPECT_EQ(host.calls.Count("GetVariant"), 0U);
+}
+
+TEST_F(NewPropertyReentranceTest, AConnectionThatThePositioningTakesAwayIsNotWritten) {
+    host.calls.On("SetCurrentDataItem", [&] { view.DeleteVPConnect(&property, &part); });
+
+    EXPECT_FALSE(property.SetValue(&row, "text"));
+
+    EXPECT_EQ(host.calls.Count("SetVariant"), 0U);
+}
+
+TEST_F(NewPropertyReentranceTest, ALinkThatThePositioningTakesAwayGivesAnEmptyText) {
+    auto& checked = Property("checked");
+    checked.SetDataType(ZBBROWSER_DATA_TYPE_BOOLEAN);
+    checked.SetScripts("set", "", "name");
+    host.calls.On("SetCurrentDataItem", [&] { view.DeleteVPConnect(&property, &part); });
+
+    EXPECT_TRUE(checked.SetBooleanValue(&row, true));
+
+    EXPECT_EQ(host.calls.take().back(), "panel.GetStringFromScript set  true\n (  )");
+}
+
+TEST_F(NewPropertyReentranceTest, AScriptMayDeleteTheProperty) {
+    property.SetScripts("", "get");
+    host.panel.scriptResult = "text";
+    host.calls.On(script, [&] { view.DeleteViewProperty(&property); });
+
+    EXPECT_EQ(ValueOf(property, &row), "text");
+
+    EXPECT_EQ(view.FindViewProperty("name"), nullptr);
+}
+
+TEST_F(NewPropertyReentranceTest, APropertyWithoutHolderFindsNoLink) {
+    property.SetScripts("", "get");
+    host.panel.scriptResult = "text";
+    host.calls.On(script, [&] {
+        view.DeletePropertyHolder();
+        EXPECT_TRUE(property.SetScripts("set", "", "default_name_prop"));
+    });
+
+    EXPECT_EQ(ValueOf(property, &row), "text");
+}
+
+TEST_F(NewPropertyReentranceTest, ADataPropertyMayDeleteTheView) {
+    host.calls.On("GetVariant", [&] { host.DeleteView(view); });
+
+    EXPECT_EQ(ValueOf(property, &row), "bolt_1");
+}
+
+TEST_F(NewPropertyReentranceTest, ADataPropertyMayDeleteTheViewWhileItIsWrittenTo) {
+    host.calls.On("SetVariant", [&] { host.DeleteView(view); });
+
+    EXPECT_TRUE(property.SetValue(&row, "text"));
+}
+
+TEST_F(NewPropertyReentranceTest, ADataPropertyThatThrowsLeavesThePropertyAsItWas) {
+    host.calls.On("GetVariant", [] { throw std::runtime_error("reader"); });
+
+    EXPECT_THROW(static_cast<void>(ValueOf(property, &row)), std::runtime_error);
+
+    host.calls.Off("GetVariant");
+    EXPECT_EQ(ValueOf(property, &row), "bolt_1");
 }
 
 TEST_F(NewPropertyReentranceTest, AScriptMayDeleteTheHolder) {

@@ -5,6 +5,7 @@
 #include "control/ItemDoubles.h"
 #include "selection/SelectionManager.h"
 #include "SelectionTest.h"
+#include "view/DataOfItems.h"
 #include "view/NewViewContext.h"
 
 #include <zbBrowserView/zbIBrowserViewProperty.h>
@@ -51,6 +52,9 @@ protected:
         view.CreateVPConnect(&property, static_cast<zbIBrowserDataSource*>(&source),
                              &source.Property("size"));
     }
+    [[nodiscard]] std::set<zbIBrowserDataItem*> DataOf(Items const& items) const {
+        return zbbrowser::detail::DataItemsOf(context_, items);
+    }
     [[nodiscard]] std::string Text() {
         zbString text = "before";
         auto const answer = manager.GetSelectedPropertyText(&property, text);
@@ -84,8 +88,8 @@ protected:
 TEST_F(NewSelectionData, EachKindOfValueIsShownInItsWay) {
     Connect(part);
     std::pair<zbVariant, char const*> const values[] = {
-        {zbVariant(true), "true"},       {zbVariant(false), "false"}, {zbVariant(-7), "-7"},
-        {zbVariant(1.5), "1.500000"},    {zbVariant("M6"), "M6"},
+        {zbVariant(true), "true"},    {zbVariant(false), "false"}, {zbVariant(-7), "-7"},
+        {zbVariant(1.5), "1.500000"}, {zbVariant("M6"), "M6"},
     };
     for (auto const& [value, expected] : values) {
         manager.ClearAll();
@@ -203,16 +207,26 @@ TEST_F(NewSelectionData, NoItemsHaveNoDataAndTheAnswerIsFalse) {
     EXPECT_THAT(sources, IsEmpty());
 }
 
-TEST_F(NewSelectionData, ItemsOfAnotherViewHaveNoDataHereAndTheAnswerIsTrue) {
-    Node const foreign(&host.View("another"), &part.Add("bolt"));
-    Node const own(&view, &part.Add("nut"));
-    Items const given{const_cast<Node*>(&foreign), nullptr, const_cast<Node*>(&own)};
-    std::set<zbIBrowserDataItem*> items;
+TEST_F(NewSelectionData, ItemsThatAreNotOfTheViewAreNotFollowedAndTheAnswerIsTrue) {
+    Node foreign(&view, &part.Add("bolt"));
+    Items const given{&foreign, nullptr, reinterpret_cast<zbIBrowserViewItem*>(0x1235)};
+    std::set<zbIBrowserDataItem*> items{nullptr};
+    std::set<zbIBrowserDataSource*> sources{nullptr};
 
     EXPECT_TRUE(view.GetDataItemsFromViewItems(given, items, true));
-    EXPECT_THAT(items, ElementsAre(&part["nut"]));
-    EXPECT_TRUE(view.GetDataItemsFromViewItems(given, items, &tool, true));
+    EXPECT_TRUE(view.GetDataSourcesFromViewItems(given, sources, true));
+
     EXPECT_THAT(items, IsEmpty());
+    EXPECT_THAT(sources, IsEmpty());
+    EXPECT_EQ(foreign.timesAskedForView, 0);
+}
+
+TEST_F(NewSelectionData, RowsOfAnotherViewAndRowsWithoutDataHaveNoDataHere) {
+    Node own(&view, &part.Add("nut"));
+    Node foreign(&host.View("another"), &part.Add("bolt"));
+    Node bare(&view, nullptr);
+
+    EXPECT_THAT(DataOf({&foreign, nullptr, &own, &bare}), ElementsAre(&part["nut"]));
 }
 
 } // namespace

@@ -43,7 +43,7 @@ using Items = std::vector<zbIBrowserViewItem*>;
 //! Writes down what it is told. What is set in `on...` runs after that.
 class RecordingNotifier final : public zbIBrowserSelectionNotifierBase {
 public:
-    explicit RecordingNotifier(std::string name = "")
+    explicit RecordingNotifier(std::string const& name = "")
         : name_(name.empty() ? name : name + " ") {}
 
     std::function<void()> onChanged = [] {};

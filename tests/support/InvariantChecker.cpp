@@ -34,6 +34,7 @@ std::string InvariantChecker::Check() {
     problems_.clear();
     allRows_.clear();
     folders_ = 0;
+    holders_ = 0;
     auto& root = *static_cast<Folder*>(view_.GetVirtualRoot());
     zbbrowser::detail::WalkFolders(root, [&](Folder& folder) {
         CheckFolder(folder);
@@ -45,6 +46,7 @@ std::string InvariantChecker::Check() {
     Expect(!context.Lifetime().IsBusy(), "no operation of the view is running");
     Expect(context.IsAlive(), "the view has not been given up");
     Expect(context.FolderCount() == folders_, "the register holds the folders of the view");
+    Expect(context.AllFoldersHaveHolders() == (holders_ == folders_), "the holders are counted");
     Expect(root.IsVirtualRoot() && root.IsExpanded(), "the root is the root and open");
     Expect(view_.GetRootFreeFolder() == &root, "the root is one object");
     Rows selected;
@@ -54,6 +56,11 @@ std::string InvariantChecker::Check() {
            "what is selected is there");
     Expect(std::is_sorted(selected.begin(), selected.end(), std::less<>()),
            "the selection stands in the order of addresses");
+    auto const* const dropped = view_.GetSelectionManager()->GetDropDataItemSimple();
+    Expect(dropped == nullptr ||
+               std::any_of(allRows_.begin(), allRows_.end(),
+                           [&](auto const* row) { return row->GetDataItemSimple() == dropped; }),
+           "the row that was dragged over is there");
     auto const* const start = view_.GetLastFindStartPoint();
     Expect(start == nullptr || context.Owns(start), "the start of a search is there");
     Rows recursive;
@@ -79,8 +86,10 @@ void InvariantChecker::CheckFolder(Folder& folder) {
         CheckUnused(folder);
         return;
     }
+    ++holders_;
     CheckStore(folder, rows);
     CheckLists(folder);
+    CheckEvents(folder);
     CheckTrees(folder);
 }
 
@@ -174,6 +183,23 @@ void InvariantChecker::CheckLists(Folder& folder) {
     Expect(folder.IsContentEmpty() ==
                (lists.empty() && !holder.HasTrees() && folder.ChildFolderCount() == 0),
            "IsContentEmpty means no child folders, lists and trees");
+}
+
+void InvariantChecker::CheckEvents(Folder& folder) {
+    using zbbrowser::detail::FolderIndex;
+    std::vector<zbIBrowserDataSourceSimple*> lists;
+    folder.GetLists(lists);
+    for (auto* const list : lists) {
+        std::vector<Folder*> concerned;
+        folder.Context().Folders().AppendTo(list, concerned);
+        Expect(std::count(concerned.begin(), concerned.end(), &folder) == 1,
+               "events of a list come to its folder, once");
+        Expect(std::all_of(concerned.begin(), concerned.end(),
+                           [&](auto const* other) { return view_.FindFreeFolder(other) == other; }),
+               "and to no folder that has gone");
+        Expect(std::is_sorted(concerned.begin(), concerned.end(), FolderIndex::Before()),
+               "and in the order of the folders");
+    }
 }
 
 void InvariantChecker::CheckTrees(Folder& folder) {

@@ -43,6 +43,7 @@ private:
     void CheckRow(Folder& folder, zbIBrowserViewItem& row);
     void CheckStore(Folder& folder, std::vector<zbIBrowserViewItem*> const& rows);
     void CheckLists(Folder& folder);
+    void CheckEvents(Folder& folder);
     void CheckTrees(Folder& folder);
     void CheckUnused(Folder& folder);
 
@@ -52,6 +53,7 @@ private:
     std::string problems_;
     std::vector<zbIBrowserViewItem*> allRows_;
     std::size_t folders_ = 0;
+    std::size_t holders_ = 0;
 };
 
 } // namespace zbtest

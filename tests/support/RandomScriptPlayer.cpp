@@ -264,6 +264,7 @@ void ScriptPlayer::Reached(std::string const& what, bool inHost) {
     }
     ScriptStep const step = due->step;
     attacks_.erase(due);
+    ++attacksMade_;
     Counted const deeper(depth_, true);
     Counted const host(hostCalls_, inHost);
     Counted const calm(lookingCalls_, inHost && what != "GetDataItems");

@@ -6,8 +6,10 @@
 #include "Oracle.h"
 #include "SignalRecorder.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 
 class zbBrowserView;
 class zbBrowserViewItemDataLeaf;
@@ -56,6 +58,7 @@ public:
 
 private:
     using Folder = zbBrowserViewItemFreeFolder;
+    using ItemSet = std::set<zbIBrowserViewItem*, std::less<>>;
     using Handler = std::string (ScriptPlayer::*)(ScriptStep const&);
     struct Attack {
         std::string on;
@@ -148,6 +151,10 @@ private:
     std::string DeselectData(ScriptStep const& step);
     std::string DeselectBelow(ScriptStep const& step);
     std::string SetDropItem(ScriptStep const& step);
+    //! Makes a change of the selection, which has to come out as expected unless an attack
+    //! interferes.
+    void ChangeSelection(ScriptStep const& step, zbBrowserView& view, ItemSet const& expected,
+                         std::function<void()> const& change);
 
     // RandomScriptPlayer_Folders.cpp
     std::string MakeFolder(ScriptStep const& step);
@@ -186,7 +193,8 @@ private:
     std::optional<Oracle> oracle_;
     zbListener<single_threaded> listener_;
     std::vector<Attack> attacks_;
-    std::string wrongSignals_;
+    std::string wrongSignals_; // And wrong selections
+    std::size_t attacksMade_ = 0;
     std::size_t depth_ = 0;        // Attacks that are going on
     std::size_t hostCalls_ = 0;    // Of those, the ones from within a host operation
     std::size_t lookingCalls_ = 0; // Of those, the ones other than GetDataItems

@@ -2,12 +2,14 @@
 //! \file
 //! What the old view does with arguments that are null, stale, foreign or strange.
 
+#include "StrangeNames.h"
 #include "ViewTestSupport.h"
 
 namespace {
 
 using testing::IsEmpty;
 using zbtest::Names;
+using zbtest::StrangeName;
 using zbtest::ThrownString;
 using zbtest::ThrownText;
 
@@ -105,13 +107,6 @@ TEST_F(BadInputTest, ASourceMayListNullAndAnItemTwice) {
     EXPECT_EQ(Rows(Root()), (Names{"bolt_1", "nut_2"}));
 }
 
-struct StrangeName {
-    char const* title;
-    std::string name;
-
-    [[nodiscard]] std::string UpToTheFirstNul() const { return name.substr(0, name.find('\0')); }
-};
-
 class StrangeNameTest : public BadInputTest, public testing::WithParamInterface<StrangeName> {};
 
 TEST_P(StrangeNameTest, NamesAFolderByteForByteUpToTheFirstNul) {
@@ -150,13 +145,6 @@ TEST_P(StrangeNameTest, NamesASource) {
     signals.Discard();
 }
 
-INSTANTIATE_TEST_SUITE_P(OfAnyKind, StrangeNameTest,
-                         testing::Values(StrangeName{"Empty", ""},
-                                         StrangeName{"OneMebibyte", std::string(1 << 20, 'x')},
-                                         StrangeName{"NotUtf8", "\xff\xfe\x80 part"},
-                                         StrangeName{"WithNul", std::string("ab\0cd", 5)},
-                                         StrangeName{"WithSlash", "a/b"},
-                                         StrangeName{"ControlBytes", "\n\t\x01"}),
-                         [](auto const& tested) { return std::string(tested.param.title); });
+INSTANTIATE_TEST_SUITE_P(OfAnyKind, StrangeNameTest, zbtest::StrangeNames(), zbtest::TitleOfName);
 
 } // namespace

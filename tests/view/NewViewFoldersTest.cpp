@@ -2,7 +2,7 @@
 //! \file
 //! Free folders of a new view: the root, making folders, their settings, order and paths.
 #include "control/ItemDoubles.h"
-#include "control/NewViewTest.h"
+#include "NewViewTest.h"
 #include "support/SignalRecorder.h"
 
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
@@ -21,14 +21,6 @@ using Folder = zbIBrowserViewItemFreeFolder;
 
 class NewViewFolders : public NewView {
 protected:
-    Folder& Root() { return *view.GetRootFreeFolder(); }
-
-    Folder& Make(Folder& parent, char const* name) {
-        EXPECT_TRUE(view.CreateFreeFolder(&parent, name));
-        return *parent.FindChildFreeFolder(name);
-    }
-    Folder& Make(char const* name) { return Make(Root(), name); }
-
     static Names Children(Folder& folder, bool sorted, bool ascending) {
         std::vector<Folder*> found{nullptr};
         EXPECT_TRUE(folder.GetChildFreeFolders(found, sorted, ascending));
@@ -195,10 +187,6 @@ TEST_F(NewViewFolders, SignalTheShowingOfEmptyContainersAndStoreNothing) {
     EXPECT_THAT(recorder.take(), ElementsAre("FreeFolderStyleChanged tools true"));
 }
 
-TEST_F(NewViewFolders, AnswerFalseToKeepingTheChildrenOfNothingInOrder) {
-    EXPECT_FALSE(view.SetKeepChildrenFreeFoldersInOrderAsCreated(nullptr, true));
-}
-
 TEST_F(NewViewFolders, HavePathsThatBeginAtTheRoot) {
     auto& saws = Make(Make("tools"), "saws");
     zbString untouched = "before";
@@ -337,6 +325,14 @@ TEST_F(NewViewFolders, HaveOneRootAtATime) {
     view.CreateVirtualRoot();
 
     EXPECT_NE(view.GetRootFreeFolder(), nullptr);
+}
+
+TEST_F(NewViewFolders, AreFoundAmongManyRegardlessOfCase) {
+    for (int i = 0; i < 2'000; ++i)
+        view.CreateFreeFolder(&Root(), ("Tools" + std::to_string(i)).c_str());
+
+    EXPECT_STREQ(Root().FindChildFreeFolder("TOOLS1999")->GetName(), "Tools1999");
+    EXPECT_EQ(Root().FindChildFreeFolder("tools2000"), nullptr);
 }
 
 TEST_F(NewViewFolders, AnnounceAFilterThatTheyDoNotHave) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ReentranceBench.h"
 
+#include <zbBrowserView/zbIBrowserSelectionManager.h>
+
 #include <map>
 
 namespace zbtest {
@@ -20,6 +22,18 @@ std::vector<Trigger> const& AllTriggers() {
         {"FreeFolderCreated", ""},
         {"FreeFolderStyleChanged", ""},
         {"EmptyFoldersShown", ""},
+        {"SelectionClearing", ""},
+        {"ViewItemsSelected", ""},
+        {"ViewItemsDeselected", ""},
+        {"DataItemsSelectionChanging", ""},
+        {"DataItemsGrouped", ""},
+        {"DataItemsSelectionSummary", ""},
+        {"SelectionManagerChanged", ""},
+        {"SelectionChangeFinished", ""},
+        {"OnSelectionChanged", "notifier"},
+        {"OnSelectionFinished", "notifier"},
+        {"ShowViewItem", "manager"},
+        {"IsHiddenFromTree", "engine"},
         {"OnConnected", "spare"},
         {"OnDisconnected", "part"},
         {"OnDisconnected", "tool"},
@@ -71,6 +85,12 @@ ReentranceBench::ReentranceBench()
     EXPECT_TRUE(view->SetFreeFolderGroupLeafs(g, true));
     EXPECT_TRUE(view->CreateList(g, &part, false));
     announced = &part.Add("new_5");
+    engine = &assembly.Add(host.Source("assembly_type"), "engine");
+    auto& selection = *view->GetSelectionManager();
+    selection.AddNotifier(&notifier_);
+    selection.UpdateSelection(
+        {b, RowOf(*view, *a, "nut_2"), RowOf(*view, *a, "saw_1"), RowOf(*view, *c, "file_2")}, true,
+        false);
     host.panel.activeView = view;
 }
 
@@ -90,6 +110,7 @@ void Hear(zbSignal<single_threaded, Args...>& signal, std::function<void()> cons
 
 void ReentranceBench::Listen(std::string const& signal) {
     zbBrowserSignalManager& s = host.signals;
+    zbBrowserDataSignalManager& d = host.dataSignals;
     std::function<void()> const reached = [this] { Reached(); };
     std::map<std::string, std::function<void()>> const connects = {
         {"ViewItemCreated", [&] { Hear(s.ViewItemCreated, reached); }},
@@ -103,6 +124,14 @@ void ReentranceBench::Listen(std::string const& signal) {
         {"FreeFolderCreated", [&] { Hear(s.FreeFolderCreated, reached); }},
         {"FreeFolderStyleChanged", [&] { Hear(s.FreeFolderStyleChanged, reached); }},
         {"EmptyFoldersShown", [&] { Hear(s.EmptyFoldersShown, reached); }},
+        {"SelectionClearing", [&] { Hear(s.SelectionClearing, reached); }},
+        {"ViewItemsSelected", [&] { Hear(s.ViewItemsSelected, reached); }},
+        {"ViewItemsDeselected", [&] { Hear(s.ViewItemsDeselected, reached); }},
+        {"DataItemsSelectionChanging", [&] { Hear(d.DataItemsSelectionChanging, reached); }},
+        {"DataItemsGrouped", [&] { Hear(d.DataItemsGrouped, reached); }},
+        {"DataItemsSelectionSummary", [&] { Hear(d.DataItemsSelectionSummary, reached); }},
+        {"SelectionManagerChanged", [&] { Hear(d.SelectionManagerChanged, reached); }},
+        {"SelectionChangeFinished", [&] { Hear(d.SelectionChangeFinished, reached); }},
     };
     connects.at(signal)();
 }
@@ -151,6 +180,30 @@ void ReentranceBench::FreeSource(std::string const& name) {
         std::erase(assembly.childTypes, &source);
     }
     host.Control().DeleteSource(name);
+}
+
+std::vector<zbIBrowserViewItem*> ReentranceBench::SomeRows() {
+    std::vector<zbIBrowserViewItem*> rows;
+    for (auto* const folder : {a, c}) {
+        if (view->FindFreeFolder(folder) == nullptr) {
+            continue;
+        }
+        for (char const* const name : {"bolt_1", "nut_2", "saw_1", "drill_3"}) {
+            if (auto* const row = RowOf(*view, *folder, name); row != nullptr) {
+                rows.push_back(row);
+            }
+        }
+    }
+    return rows;
+}
+
+std::vector<zbIBrowserDataItemSimple*> ReentranceBench::SomeData() {
+    std::vector<zbIBrowserDataItemSimple*> items;
+    for (char const* const name : {"part", "tool"}) {
+        auto const& all = host.Source(name).All();
+        items.insert(items.end(), all.begin(), all.end());
+    }
+    return items;
 }
 
 void ReentranceBench::FreeItems(std::string const& name) {

@@ -5,6 +5,8 @@
 
 #include "ViewTestSupport.h"
 
+#include <zbBrowserView/zbIBrowserSelectionNotifierBase.h>
+
 #include <functional>
 #include <set>
 
@@ -18,14 +20,31 @@ struct Trigger {
     [[nodiscard]] bool IsSignal() const { return object.empty(); }
 };
 
+//! A notifier that reports to the calls of a host.
+class ReportingNotifier final : public zbIBrowserSelectionNotifierBase {
+public:
+    explicit ReportingNotifier(RecordingHostCalls& calls)
+        : calls_(calls) {}
+
+    void OnSelectionChanged(std::vector<zbIBrowserViewItem*> const& /*items*/,
+                            bool /*selected*/) override {
+        calls_.Called("OnSelectionChanged", "notifier");
+    }
+    void OnPopupSelection(bool /*flag*/) override {}
+    void OnSelectionFinished() override { calls_.Called("OnSelectionFinished", "notifier"); }
+
+private:
+    RecordingHostCalls& calls_;
+};
+
 //! The view "view" shows
 //!
-//!     /a      lists part and tool, tree assembly
+//!     /a      lists part and tool, tree assembly with the item engine
 //!     /a/b    list part
 //!     /c      list tool
 //!     /g      list part, grouped
 //!
-//! and the source spare is not connected.
+//! with the folder b and some rows selected, and the source spare is not connected.
 class ReentranceBench {
 public:
     ReentranceBench();
@@ -37,7 +56,8 @@ public:
     zbIBrowserViewItemFreeFolder* b;
     zbIBrowserViewItemFreeFolder* c;
     zbIBrowserViewItemFreeFolder* g;
-    RecordingItem* announced; //!< An item of part that no view was told of yet.
+    RecordingItem* announced;  //!< An item of part that no view was told of yet.
+    RecordingTreeItem* engine; //!< The item of the tree.
 
     //! Does `deed` when `trigger` is reached for the nth time, counted from 1.
     void Arm(Trigger const& trigger, int nth, std::function<void()> deed);
@@ -49,6 +69,10 @@ public:
     [[nodiscard]] bool ViewLives() { return host.Controller().FindView("view") == view; }
     //! Frees a source, unless it or an item of it is being called; it is disconnected before.
     void FreeSource(std::string const& name);
+    //! Rows of a and c, with some that stand there no more.
+    [[nodiscard]] std::vector<zbIBrowserViewItem*> SomeRows();
+    //! The data items of part and tool.
+    [[nodiscard]] std::vector<zbIBrowserDataItemSimple*> SomeData();
     //! Frees some items of a source without telling the view.
     void FreeItems(std::string const& name);
 
@@ -64,6 +88,7 @@ private:
     void ExpectSound(zbIBrowserViewItemFreeFolder& folder, bool complete);
     [[nodiscard]] bool IsCalled(RecordingSource& source) const;
 
+    ReportingNotifier notifier_{host.calls};
     Trigger trigger_;
     int left_ = 0;
     bool done_ = false;

@@ -4,6 +4,9 @@
 
 #include "ReentranceBench.h"
 
+#include <zbBrowserView/zbIBrowserSelectionManager.h>
+#include <zbBrowserView/zbIBrowserViewColumn.h>
+
 #include <iterator>
 #include <stdexcept>
 
@@ -123,11 +126,19 @@ constexpr Operation allOperations[] = {
          t.view->GetChildren(items, t.c);
          t.view->DeleteViewItemList(items, false);
      }},
+    {"TreeItemCreated", [](B& t) { t.host.Controller().OnDataItemCreated(t.engine, false); }},
+    {"SelectData", [](B& t) { t.host.Controller().OnDataItemsSelected(t.SomeData(), true); }},
+    {"DeselectData", [](B& t) { t.host.Controller().OnDataItemsDeselected(t.SomeData()); }},
+    {"SelectRows",
+     [](B& t) { t.host.Controller().OnUpdateViewSelection(t.view, t.SomeRows(), true, true); }},
+    {"DeselectFolder", [](B& t) { t.view->DeselectViewItem(t.root, true); }},
+    {"DeselectAll", [](B& t) { t.view->DeselectAllViewItems(); }},
+    {"AnnounceSelection", [](B& t) { t.view->UpdatePreviousSelection(); }},
 };
 
 // While the control looks for the tree, it reads the tree's own name.
 void FreeAllData(ReentranceBench& bench) {
-    if (bench.Callee() != "assembly" && bench.Callee() != "data") {
+    if (bench.Callee() != "assembly" && bench.Callee() != "data" && bench.Callee() != "engine") {
         if (bench.ViewLives()) {
             bench.view->DataSourceDisconnect("assembly");
         }
@@ -193,6 +204,37 @@ constexpr Deed allDeeds[] = {
      [](B& t, O&) {
          t.view->OnDataItemsRebuildAll();
          t.view->OnAllDirtyDataListsRebuild();
+     }},
+    {"SelectsOthers",
+     [](B& t, O&) {
+         auto const rows = t.SomeRows();
+         t.view->GetSelectionManager()->UpdateSelection(rows, true, true);
+         t.view->DeselectViewItem(t.root, true);
+         t.view->GetSelectionManager()->UpdateSelection(rows, true, false);
+         t.view->OnDataItemsSelected(t.SomeData(), {}, true);
+     }},
+    {"DeletesRows",
+     [](B& t, O&) {
+         auto rows = t.SomeRows();
+         t.view->DeleteViewItemList(rows, false);
+     }},
+    {"Sorts",
+     [](B& t, O&) {
+         t.view->CreateTextBoxColumn("sorted", "");
+         auto* const column = t.view->FindColumn("sorted");
+         t.view->SetAscendingOrder(column, false);
+         EXPECT_FALSE(ChildrenOf(*t.view, *t.root).empty());
+         t.view->DeleteScriptedColumn(column);
+     }},
+    {"RaisesEvents",
+     [](B& t, O&) {
+         for (auto* const item : t.SomeData()) {
+             t.host.Controller().OnDataItemCreated(item, false);
+             t.host.Controller().OnDataItemSimpleUpdated(item);
+             t.view->OnDataItemDeleted(item);
+         }
+         t.view->OnAllDirtyDataItemsRebuild();
+         t.view->RedrawAllDirtyDataLists(false);
      }},
     {"DoesTheSameAgain", [](B& t, O& operation) { operation.run(t); }},
     {"ThrowsText", [](B&, O&) { throw "slot failed"; }, true},

@@ -89,7 +89,7 @@ public:
            std::vector<zbIBrowserDataItemSimple*>&, std::vector<zbIBrowserDataItemHierarchical*>&>
         PopupMenuShowing;
 
-    //! The direction of sorting of an old view changes: true before, false after. Without the
-    //! control.
+    //! An old view is being sorted by a column or in the other direction: true before, false after.
+    //! No false comes if a slot deletes the column or the view meanwhile. Without the control.
     Signal<bool> SortChanging;
 };

@@ -87,7 +87,8 @@ public:
     Signal<zbIBrowserViewColumn*> ColumnDeleted;
     //! A scripted column was shown or hidden.
     Signal<zbIBrowserViewColumn*> ColumnShown;
-    //! (column, sorted, ascending)
+    //! (column, sorted, ascending): the view is sorted by that column now, or not any more; the
+    //! direction then is that of the column that takes its place, false if none does.
     Signal<zbIBrowserViewColumn*, bool, bool> ColumnSortChanged;
     //! (column, sorted, ascending): the same was asked for again. Old views only.
     Signal<zbIBrowserViewColumn*, bool, bool> ColumnSortRepeated;

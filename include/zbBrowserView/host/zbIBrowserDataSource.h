@@ -65,7 +65,8 @@ public:
 
     //! Finds a data property of the items of this source by name; exact comparison is expected.
     //! Called with the name of a custom sort property and with "id".
-    //! Null: there is no property of that name; sorting then goes on with the next key.
+    //! Null: there is no property of that name; a custom sort then goes by what SetSortProperty was
+    //! last given.
     //! Ownership: the host's; the property stays valid as long as the source.
     virtual zbIBrowserDataProperty* FindDataProperty(char const* name) = 0;
 

@@ -74,16 +74,13 @@ void ViewItemFreeFolder::SortChildren() {
     sortedChildren_.clear();
     for (auto const& child : children_)
         sortedChildren_.push_back(child.get());
-    if (auto* const handler = context_.SortHandler())
-        handler->SortFreeFolders(sortedChildren_);
+    detail::SortHandlerBase::SortFreeFolders(sortedChildren_);
     childrenSorted_ = true;
 }
 
 zbIBrowserViewItemFreeFolder* ViewItemFreeFolder::FindChildFreeFolder(zbString const& name) const {
-    auto const found = std::find_if(children_.begin(), children_.end(), [&](auto const& child) {
-        return StrICmp(child->GetName(), name.c_str()) == 0;
-    });
-    return found == children_.end() ? nullptr : found->get();
+    auto const found = childByName_.find(name.c_str());
+    return found == childByName_.end() ? nullptr : found->second;
 }
 
 void ViewItemFreeFolder::CreateChild(zbString const& name) {
@@ -91,6 +88,7 @@ void ViewItemFreeFolder::CreateChild(zbString const& name) {
         throw "Child Free Folder with supplied name already exists in parent";
     auto& child =
         *children_.emplace_back(std::make_unique<ViewItemFreeFolder>(context_, this, name));
+    childByName_.emplace(child.GetName(), &child);
     childrenSorted_ = false;
     context_.Raise(&zbBrowserSignalManager::ViewItemCreated, &child);
     context_.Raise(&zbBrowserSignalManager::FreeFolderCreated, this);

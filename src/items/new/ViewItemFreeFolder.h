@@ -6,12 +6,11 @@
 #include <zbBrowserView/zbIBrowserView.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 
+#include <map>
 #include <memory>
 #include <vector>
 
 namespace zbbrowser {
-
-class View;
 
 namespace detail {
 class NewViewContext;
@@ -134,7 +133,7 @@ public:
     std::vector<std::unique_ptr<ViewItemFreeFolder>> const& ChildFolders() const {
         return children_;
     }
-    //! The rows in it and below it. 0: it shows none.
+    //! What its texts say about the rows below it: nothing, in this generation.
     std::size_t CountAllViewItems() const { return 0; }
     bool IconShowsData() const { return iconShowsData_; }
     bool IsIconRecursive() const { return iconRecursive_; }
@@ -142,6 +141,10 @@ public:
     bool IsCaptionRecursive() const { return captionRecursive_; }
 
 private:
+    struct NameLess {
+        bool operator()(char const* a, char const* b) const { return StrICmp(a, b) < 0; }
+    };
+
     void RaiseChanged();
     void SortChildren();
     //! This folder and all below it; backwards, a folder comes after those below it.
@@ -150,8 +153,9 @@ private:
     detail::NewViewContext& context_;
     zbString const name_;
     zbIBrowserViewItemFreeFolder* parent_; // Not owned; as the host wrote it, never followed here
-    std::vector<std::unique_ptr<ViewItemFreeFolder>> children_; // In order of creation
-    std::vector<zbIBrowserViewItemFreeFolder*> sortedChildren_; // Valid if childrenSorted_
+    std::vector<std::unique_ptr<ViewItemFreeFolder>> children_;        // In order of creation
+    std::map<char const*, ViewItemFreeFolder*, NameLess> childByName_; // Keys are their names
+    std::vector<zbIBrowserViewItemFreeFolder*> sortedChildren_;        // Valid if childrenSorted_
     bool childrenSorted_ = false;
     bool keepChildrenInOrder_ = true;
     bool expanded_;

@@ -4,6 +4,7 @@
 #include "containers/Prefetch.h"
 
 #include <algorithm>
+#include <bit>
 #include <iterator>
 
 namespace zbbrowser::detail {
@@ -49,7 +50,8 @@ void LeafStore::Take(Leaf& leaf) {
     index_.Erase(leaf.dataItem_, leaf.slot_);
     slots_.Take(leaf.slot_);
     ++changes_;
-    orderedEnd_ = std::min(orderedEnd_, static_cast<Slot>(slots_.Slots().size()));
+    if (slots_.Slots().size() < orderedEnd_)
+        ForgetOrder(); // It was the last one, and all slots have gone
     leaf.listed_ = 0;
     if (leaf.IsHidden())
         NoteHidden(false);
@@ -80,8 +82,7 @@ void LeafStore::Clear() {
     sourceNumbers_.clear();
     lastSource_ = nullptr;
     hidden_ = 0;
-    orderedEnd_ = 0;
-    ++changes_;
+    ForgetOrder();
 }
 
 void LeafStore::MarkAllGone() {
@@ -144,8 +145,29 @@ std::vector<LeafStore::Leaf*> LeafStore::SnapshotOf(zbIBrowserDataSource const* 
 }
 
 std::size_t LeafStore::CountOf(zbIBrowserDataSource const* source) const {
+    if (source == lastSource_ && !sources_.empty())
+        return sources_[lastNumber_].count;
     auto const found = sourceNumbers_.find(source);
     return found == sourceNumbers_.end() ? 0 : sources_[found->second].count;
+}
+
+// One slot in 64 or more: marking them and looking at all marks takes less than sorting.
+void LeafStore::SortUnique(std::vector<Slot>& slots) const {
+    constexpr std::size_t bits = 64;
+    if (slots.size() < slots_.Slots().size() / bits) {
+        std::sort(slots.begin(), slots.end());
+        slots.erase(std::unique(slots.begin(), slots.end()), slots.end());
+        return;
+    }
+    std::vector<std::uint64_t> marks(slots_.Slots().size() / bits + 1);
+    for (auto const slot : slots)
+        marks[slot / bits] |= std::uint64_t{1} << (slot % bits);
+    slots.clear();
+    for (std::size_t i = 0; i < marks.size(); ++i) {
+        for (auto word = marks[i]; word != 0; word &= word - 1)
+            slots.push_back(
+                static_cast<Slot>(i * bits + static_cast<std::size_t>(std::countr_zero(word))));
+    }
 }
 
 std::vector<LeafStore::Leaf*>
@@ -158,8 +180,7 @@ LeafStore::FindAll(std::vector<zbIBrowserDataItemSimple*> const& items) const {
         if (auto const* const leaf = Find(items[i]); leaf != nullptr)
             slots.push_back(leaf->slot_);
     }
-    std::sort(slots.begin(), slots.end());
-    slots.erase(std::unique(slots.begin(), slots.end()), slots.end());
+    SortUnique(slots);
     std::vector<Leaf*> found(slots.size());
     std::transform(slots.begin(), slots.end(), found.begin(),
                    [this](Slot slot) { return slots_[slot]; });
@@ -193,7 +214,8 @@ void LeafStore::ExtendRuns(Source& source, Slot slot) {
 }
 
 void LeafStore::Compact() {
-    std::vector<Slot> newSlot(slots_.Slots().size());
+    constexpr Slot gone = ~Slot{0};
+    std::vector<Slot> newSlot(slots_.Slots().size(), gone);
     Slot ordered = 0;
     slots_.Compact([&](Leaf& leaf, Slot from, Slot to) {
         newSlot[from] = to;
@@ -202,6 +224,9 @@ void LeafStore::Compact() {
             ordered = to + 1;
     });
     orderedEnd_ = ordered;
+    for (auto& slot : loose_)
+        slot = newSlot[slot];
+    std::erase(loose_, gone);
     index_.Renumber(newSlot);
     RebuildRuns();
 }
@@ -215,16 +240,40 @@ void LeafStore::RebuildRuns() {
         ExtendRuns(sources_[leaf->sourceNumber_], leaf->slot_);
 }
 
-std::size_t LeafStore::OrderedCount() const {
-    if (!slots_.HasHoles())
-        return orderedEnd_;
-    auto const begin = slots_.Slots().begin();
-    return orderedEnd_ - static_cast<std::size_t>(std::count(
-                             begin, begin + static_cast<std::ptrdiff_t>(orderedEnd_), nullptr));
+// No leaf is looked at: in the order of a sort they lie all over the memory.
+std::size_t LeafStore::AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out) const {
+    auto const before = out.size();
+    out.reserve(before + Count());
+    std::vector<bool> isLoose(loose_.empty() ? 0 : orderedEnd_);
+    for (auto const slot : loose_)
+        isLoose[slot] = true;
+    std::vector<Leaf*> others;
+    for (Slot slot = 0; slot < orderedEnd_; ++slot) {
+        if (auto* const leaf = slots_[slot]; leaf != nullptr && !isLoose.empty() && isLoose[slot])
+            others.push_back(leaf);
+        else if (leaf != nullptr)
+            out.push_back(leaf);
+    }
+    auto const ordered = out.size() - before;
+    out.insert(out.end(), others.begin(), others.end());
+    std::copy_if(slots_.Slots().begin() + static_cast<std::ptrdiff_t>(orderedEnd_),
+                 slots_.Slots().end(), std::back_inserter(out),
+                 [](Leaf const* leaf) { return leaf != nullptr; });
+    return ordered;
 }
 
 void LeafStore::ForgetOrder() {
     orderedEnd_ = 0;
+    loose_.clear();
+    ++changes_;
+}
+
+void LeafStore::ForgetOrder(Leaf const& leaf) {
+    if (leaf.slot_ >= orderedEnd_)
+        return;
+    if (loose_.size() >= 2 * std::size_t{orderedEnd_})
+        SortUnique(loose_); // Many came more than once
+    loose_.push_back(leaf.slot_);
     ++changes_;
 }
 
@@ -248,6 +297,7 @@ void LeafStore::Reorder(std::vector<zbIBrowserViewItem*> const& order) {
     index_.Renumber(newSlot);
     sources_ = std::move(sources);
     orderedEnd_ = static_cast<Slot>(leaves.size());
+    loose_.clear();
     ++changes_;
 }
 

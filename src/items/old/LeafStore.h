@@ -78,15 +78,17 @@ public:
     //! comes after that stands behind them.
     //! \{
     //! All are as Reorder left them, or there are none.
-    bool IsOrdered() const { return orderedEnd_ == slots_.Slots().size(); }
-    //! How many of the first leaves are as Reorder left them. O(leaves) after some have gone.
-    std::size_t OrderedCount() const;
+    bool IsOrdered() const { return orderedEnd_ == slots_.Slots().size() && loose_.empty(); }
+    //! Those that are as Reorder left them, then the others. Answers how many the former are.
+    std::size_t AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out) const;
     //! Puts the leaves into this order. O(leaves).
     //! Requires: `order` holds the leaves of this store and nothing else.
     //! Failure: std::bad_alloc; the store is as before.
     void Reorder(std::vector<zbIBrowserViewItem*> const& order);
     //! From now on the leaves count as not ordered. They stay where they are.
     void ForgetOrder();
+    //! The same for one leaf, as often as one likes. Amortized O(1).
+    void ForgetOrder(Leaf const& leaf);
     //! Changes with each leaf that comes or goes and with each new or lost order.
     std::size_t ChangeNumber() const { return changes_; }
     //! \}
@@ -116,6 +118,7 @@ private:
     static constexpr Slot bridgedSlots = 8;
 
     std::uint32_t NumberOf(zbIBrowserDataSource const* source);
+    void SortUnique(std::vector<Slot>& slots) const;
     void Clear();
     void Compact();
     void RebuildRuns();
@@ -129,7 +132,8 @@ private:
     zbIBrowserDataSource const* lastSource_ = nullptr; // Of the last Append, with its number
     std::uint32_t lastNumber_ = 0;
     std::size_t hidden_ = 0;
-    Slot orderedEnd_ = 0; // The slots before it are as Reorder left them
+    Slot orderedEnd_ = 0;     // The slots before it are as Reorder left them
+    std::vector<Slot> loose_; // Slots before it that are not; some may be empty or come twice
     std::size_t changes_ = 0;
 };
 

@@ -165,6 +165,9 @@ bool zbBrowserFreeFolderContent::AddList(Simple* source) {
 }
 
 bool zbBrowserFreeFolderContent::RecordList(Simple* source) {
+    if (source == nullptr || lists_.Contains(source))
+        return false;
+    NoteSource(source);
     return lists_.Add(source);
 }
 
@@ -183,10 +186,12 @@ bool zbBrowserFreeFolderContent::AddLists(std::vector<Simple*> const& sources) {
 bool zbBrowserFreeFolderContent::RemoveList(Simple* source) {
     if (!lists_.Remove(source))
         return false;
-    if (!DisconnectList(source, false))
-        return false;
-    RaiseContentChanged();
-    return true;
+    auto const disconnected = DisconnectList(source, false);
+    if (IsAlive() && !holder_.IsConcernedWith(source))
+        Context().Folders().Remove(source, Folder());
+    if (disconnected)
+        RaiseContentChanged();
+    return disconnected;
 }
 
 zbBrowserFreeFolderContent::Simple* zbBrowserFreeFolderContent::FindList(char const* name) const {
@@ -268,6 +273,10 @@ void zbBrowserFreeFolderContent::GetAllDataSources(std::vector<Simple*>& out) {
     }
     std::sort(out.begin(), out.end(), std::greater<>());
     out.erase(std::unique(out.begin(), out.end()), out.end());
+}
+
+void zbBrowserFreeFolderContent::NoteSource(zbIBrowserDataSource const* source) const {
+    Context().Folders().Add(source, Folder());
 }
 
 // Signals

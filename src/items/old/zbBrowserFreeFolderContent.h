@@ -171,6 +171,8 @@ protected:
     zbbrowser::detail::OldViewContext& Context() const;
     zbBrowserViewItemFreeFolder& Folder() const;
     zbBrowserFreeFolderContentHolder& Holder() const { return holder_; }
+    //! Events of the source come to this folder from now on.
+    void NoteSource(zbIBrowserDataSource const* source) const;
     //! ViewItemChanged of an item.
     void RaiseChanged(zbIBrowserViewItem& item) const;
     void DeleteItems(zbbrowser::detail::DetachedLeaves& leaves, bool silent) const;

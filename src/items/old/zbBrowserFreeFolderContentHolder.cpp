@@ -61,6 +61,10 @@ bool zbBrowserFreeFolderContentHolder::HasLists() const {
     return !noGrouping_.Lists().IsEmpty() || !withGrouping_.Lists().IsEmpty();
 }
 
+bool zbBrowserFreeFolderContentHolder::IsConcernedWith(Simple const* source) const {
+    return FindList(source) != nullptr || noGrouping_.Leaves().CountOf(source) > 0;
+}
+
 bool zbBrowserFreeFolderContentHolder::SetListGrouped(Simple* source, bool grouped) {
     zbBrowserFreeFolderContent* from = &noGrouping_;
     zbBrowserFreeFolderContent* to = &withGrouping_;

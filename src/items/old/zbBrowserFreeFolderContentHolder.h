@@ -39,6 +39,8 @@ public:
     Simple* FindDataSource(char const* name);
     std::vector<Simple*> Lists() const;
     bool HasLists() const;
+    //! It is a list, or there are rows of its items.
+    bool IsConcernedWith(Simple const* source) const;
     bool HasTrees() const { return withTree_.HasTrees(); }
     bool SetListGrouped(Simple* source, bool grouped);
     //! Lists, then the types of each tree. A source comes once for each place.

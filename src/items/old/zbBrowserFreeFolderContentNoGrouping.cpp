@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "items/old/zbBrowserFreeFolderContentNoGrouping.h"
 
+#include "containers/Prefetch.h"
 #include "filtersort/zbBrowserSortHandler.h"
 #include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "items/old/zbBrowserViewItemFreeFolder.h"
@@ -14,11 +15,10 @@
 
 using zbbrowser::detail::BeginLongOperation;
 using zbbrowser::detail::DetachedLeaves;
+using zbbrowser::detail::Prefetch;
+using zbbrowser::detail::prefetchDistance;
 
 namespace {
-//! How many items ahead the index is asked to be fetched while a list is built.
-constexpr std::size_t prefetchDistance = 8;
-
 //! Sets a mark as long as it lives.
 class RaisedFlag {
 public:
@@ -98,25 +98,36 @@ bool zbBrowserFreeFolderContentNoGrouping::DisconnectList(Simple* source, bool s
     return true;
 }
 
+// Only the dirty rows lose their place among the sorted ones, as new rows have none.
 bool zbBrowserFreeFolderContentNoGrouping::RefreshListItems(Simple* source, bool silent) {
     auto const bracket = BeginLongOperation(Context());
-    bool anyDirty = false;
-    for (auto* const leaf : leaves_.SnapshotOf(source)) {
-        if (!IsStillListed(*leaf))
+    auto const leaves = leaves_.SnapshotOf(source);
+    std::vector<Leaf const*> dirty;
+    for (std::size_t i = 0; i < leaves.size(); ++i) {
+        if (i + 2 * prefetchDistance < leaves.size()) {
+            Prefetch(leaves[i + 2 * prefetchDistance]);
+            Prefetch(leaves[i + prefetchDistance]->GetDataItemSimple());
+        }
+        auto& leaf = *leaves[i];
+        if (!IsStillListed(leaf) || !IsDirty(*source, leaf))
             continue;
-        auto* const item = leaf->GetDataItemSimple();
-        // A slot may have deleted the data item without telling.
-        if (Context().Lifetime().HasHostRun() && !source->ContainsDataItem(item))
-            continue;
-        if (!item->IsDirty())
-            continue;
-        anyDirty = true;
-        if (!silent && IsStillListed(*leaf))
-            RaiseChanged(*leaf);
+        dirty.push_back(&leaf);
+        if (!silent && IsStillListed(leaf))
+            RaiseChanged(leaf);
     }
-    if (anyDirty)
-        SetUnsorted();
+    for (auto const* const leaf : dirty) {
+        if (IsStillListed(*leaf))
+            leaves_.ForgetOrder(*leaf);
+    }
     return true;
+}
+
+// A slot may have deleted the data item without telling.
+bool zbBrowserFreeFolderContentNoGrouping::IsDirty(Simple& source, Leaf const& leaf) const {
+    auto* const item = leaf.GetDataItemSimple();
+    if (Context().Lifetime().HasHostRun() && !source.ContainsDataItem(item))
+        return false;
+    return item->IsDirty();
 }
 
 bool zbBrowserFreeFolderContentNoGrouping::RebuildList(Simple* source, bool silent) {
@@ -136,6 +147,7 @@ bool zbBrowserFreeFolderContentNoGrouping::RebuildList(Simple* source, bool sile
 }
 
 bool zbBrowserFreeFolderContentNoGrouping::RedrawList(Simple*) {
+    NoteChangedValues();
     auto const bracket = BeginLongOperation(Context());
     for (auto* const leaf : leaves_.Snapshot()) {
         if (IsStillListed(*leaf))
@@ -148,7 +160,8 @@ bool zbBrowserFreeFolderContentNoGrouping::RedrawList(Simple*) {
 // another folder went. Where it has a leaf, its source is one of the lists.
 void zbBrowserFreeFolderContentNoGrouping::OnDataItemDeleted(zbIBrowserDataItemSimple* item,
                                                              bool silent) {
-    DeleteLeaf(item, silent);
+    if (auto* const leaf = leaves_.Find(item); leaf != nullptr)
+        DeleteLeaf(*leaf, silent);
 }
 
 void zbBrowserFreeFolderContentNoGrouping::GetViewItems(SimpleItems const& items, Items& found,
@@ -188,10 +201,9 @@ bool zbBrowserFreeFolderContentNoGrouping::SortRows() {
         return IsAlive();
     RaisedFlag const sorting(isSorting_);
     auto const changesBefore = leaves_.ChangeNumber();
-    auto const ordered = leaves_.OrderedCount();
     auto basis = sortBasis_;
     Items rows;
-    leaves_.AppendAllTo(rows);
+    auto const ordered = leaves_.AppendOrderedFirst(rows);
     if (!handler->SortDataItems(rows, ordered, basis) || leaves_.ChangeNumber() != changesBefore)
         return IsAlive();
     leaves_.Reorder(rows);
@@ -215,7 +227,8 @@ void zbBrowserFreeFolderContentNoGrouping::OnViewItemRemoved(zbIBrowserViewItem*
     auto* const leaf = Context().FindLeaf(item);
     if (leaf == nullptr || leaf->GetParentFreeFolder() != &Folder())
         return;
-    DeleteLeaf(leaf->GetDataItemSimple(), false);
+    if (leaves_.IsIndexInStep())
+        DeleteLeaf(*leaf, false);
     if (IsAlive() && !Folder().HasChildren())
         RaiseChanged(Folder());
 }
@@ -267,6 +280,8 @@ zbBrowserFreeFolderContentNoGrouping::CreateLeaf(zbIBrowserDataItemSimple* item,
 zbBrowserFreeFolderContentNoGrouping::Leaf&
 zbBrowserFreeFolderContentNoGrouping::MakeLeaf(zbIBrowserDataItemSimple* item,
                                                zbIBrowserDataSource const* source, bool hidden) {
+    if (leaves_.CountOf(source) == 0)
+        NoteSource(source);
     void* const memory = Context().LeafMemory().Allocate();
     auto* const leaf = new (memory) zbBrowserViewItemDataLeafInFreeFolder(Folder(), item, hidden);
     try {
@@ -278,18 +293,15 @@ zbBrowserFreeFolderContentNoGrouping::MakeLeaf(zbIBrowserDataItemSimple* item,
     return *leaf;
 }
 
-void zbBrowserFreeFolderContentNoGrouping::DeleteLeaf(zbIBrowserDataItemSimple* item, bool silent) {
-    auto* const leaf = leaves_.Find(item);
-    if (leaf == nullptr)
-        return;
+void zbBrowserFreeFolderContentNoGrouping::DeleteLeaf(Leaf& leaf, bool silent) {
     if (!silent)
-        Context().Raise(&zbBrowserSignalManager::ViewItemDeleted, leaf);
-    if (!IsStillListed(*leaf))
+        Context().Raise(&zbBrowserSignalManager::ViewItemDeleted, &leaf);
+    if (!IsStillListed(leaf))
         return;
     DetachedLeaves gone(Context());
     gone.Reserve(1);
-    leaves_.Take(*leaf);
-    gone.Add(*leaf);
+    leaves_.Take(leaf);
+    gone.Add(leaf);
 }
 
 void zbBrowserFreeFolderContentNoGrouping::DeleteLeaves(std::vector<Leaf*> leaves, bool silent) {

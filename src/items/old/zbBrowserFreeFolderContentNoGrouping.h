@@ -34,7 +34,8 @@ public:
     //! Deletes the leaves of a source. Signals: `ViewItemListDeleted`, `ViewItemChanged(folder)`.
     bool DisconnectList(Simple* source, bool silent) override;
 
-    //! Signals `ViewItemChanged` for each leaf of the source whose data item is dirty.
+    //! Signals `ViewItemChanged` for each leaf of the source whose data item is dirty. These leaves
+    //! are sorted into the others when the list is next read in sorted form.
     bool RefreshListItems(Simple* source, bool silent) override;
 
     //! Deletes the leaves whose data items the source no longer contains, then adds what is new.
@@ -61,6 +62,9 @@ public:
     //! All rows are sorted when the list is next read in sorted form. A new row does not take this:
     //! it is sorted into the others.
     void SetUnsorted() override { leaves_.ForgetOrder(); }
+    //! What rows are sorted by may have changed. They stay where they are until a new one comes;
+    //! then all are sorted.
+    void NoteChangedValues() { sortBasis_ = {}; }
     void SelectAll(bool select) override;
     void MarkDead() override;
 
@@ -70,6 +74,7 @@ public:
     bool SortRows();
 
     zbbrowser::detail::LeafStore& Leaves() { return leaves_; }
+    zbbrowser::detail::LeafStore const& Leaves() const { return leaves_; }
 
 private:
     using Leaf = zbBrowserViewItemDataLeaf;
@@ -80,7 +85,8 @@ private:
     //! The same, loudly, for an item that the source contains. False once the list has gone.
     bool CreateLeafIfContained(Simple& source, zbIBrowserDataItemSimple* item);
     Leaf& MakeLeaf(zbIBrowserDataItemSimple* item, zbIBrowserDataSource const* source, bool hidden);
-    void DeleteLeaf(zbIBrowserDataItemSimple* item, bool silent);
+    bool IsDirty(Simple& source, Leaf const& leaf) const;
+    void DeleteLeaf(Leaf& leaf, bool silent);
     void DeleteLeaves(std::vector<Leaf*> leaves, bool silent);
     //! Asks the source for its items. False also if the list is taken out meanwhile.
     bool ListItems(Simple& source, std::vector<zbIBrowserDataItemSimple*>& items) const;

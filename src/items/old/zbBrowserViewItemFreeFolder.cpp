@@ -22,6 +22,7 @@ zbBrowserViewItemFreeFolder::zbBrowserViewItemFreeFolder(OldViewContext& context
     , name_(std::move(name))
     , parent_(owner)
     , owner_(owner)
+    , place_(owner == nullptr ? nullptr : &owner->place_)
     , expanded_(expanded)
     , showWhenEmpty_(owner == nullptr || owner->showWhenEmpty_) {
     context_.RegisterFolder(*this);
@@ -52,8 +53,10 @@ void zbBrowserViewItemFreeFolder::Show() {
 }
 
 zbBrowserFreeFolderContentHolder& zbBrowserViewItemFreeFolder::RequireHolder() {
-    if (holder_ == nullptr)
+    if (holder_ == nullptr) {
         holder_ = std::make_unique<zbBrowserFreeFolderContentHolder>(*this);
+        context_.NoteHolderMade();
+    }
     return *holder_;
 }
 
@@ -139,6 +142,8 @@ void zbBrowserViewItemFreeFolder::RetireHolder() {
     if (holder_ == nullptr)
         return;
     holder_->MarkDead();
+    context_.Folders().Remove(*this);
+    context_.NoteHolderGone();
     context_.Lifetime().Retire(std::move(holder_));
 }
 
@@ -179,8 +184,7 @@ void zbBrowserViewItemFreeFolder::SortChildren() {
         if (child != nullptr)
             sortedChildren_.push_back(child.get());
     }
-    if (auto const* const handler = context_.SortHandler())
-        handler->SortFreeFolders(sortedChildren_);
+    zbBrowserSortHandler::SortFreeFolders(sortedChildren_);
     childrenSorted_ = true;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "containers/SlotVector.h"
+#include "items/old/FolderPlace.h"
 
 #include <zbBrowserView/zbBrowserView.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
@@ -117,6 +118,7 @@ public:
     OldViewContext& Context() const { return context_; }
     //! The folder that holds this one; null for the root, and once this one has been deleted.
     zbBrowserViewItemFreeFolder* Owner() const { return owner_; }
+    zbbrowser::detail::FolderPlace const& Place() const { return place_; }
     //! False once it has been deleted and only waits to be freed.
     bool IsAlive() const { return alive_; }
     //! Null until content was first added or an event passed on.
@@ -214,6 +216,7 @@ private:
     zbString const name_;
     zbIBrowserViewItemFreeFolder* parent_; // Not owned; as the host wrote it, never followed here
     zbBrowserViewItemFreeFolder* owner_;   // Not owned
+    zbbrowser::detail::FolderPlace place_;
     std::unique_ptr<zbBrowserFreeFolderContentHolder> holder_;
     zbbrowser::detail::SlotVector<FolderPtr> children_;
     zbbrowser::detail::SlotVector<FolderPtr>::Slot slot_ = 0;   // Place in the owner's children

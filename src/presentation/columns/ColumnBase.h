@@ -48,13 +48,19 @@ public:
     bool SetFolderDataListStyle(zbIBrowserViewItem* folder, zbIBrowserDataSourceSimple* source,
                                 bool flag) override;
     bool AddFolderStyle(zbIBrowserViewItem* folder) override;
-    zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewItem* item) override;
+    zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewItem* item) final;
     bool SetCurrentStyle(zbIBrowserStyle* style) override;
     bool IsUnsorted() const override { return unsorted_; }
     void SetUnsorted(bool unsorted) override { unsorted_ = unsorted; }
 
-    //! As that of the manager.
+    //! As those of the manager.
+    //! \{
     virtual bool RemoveFolderStyles(zbIBrowserViewItem* folder);
+    void OnGuiMapDeleted(zbString const& name) { styles_->OnGuiMapDeleted(name); }
+    void OnViewPropertyDeleted(zbIBrowserViewProperty* property) {
+        styles_->OnViewPropertyDeleted(property);
+    }
+    //! \}
 
     //! The manager forgets a folder that is going.
     void OnFolderGone(zbIBrowserViewItem const& folder) { styles_->OnFolderGone(folder); }

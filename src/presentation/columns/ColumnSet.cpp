@@ -127,7 +127,7 @@ bool ColumnSet::Create(char const* name, bool isIcon) {
     if (isIcon)
         column->MakeIconColumn();
     context_.Raise(&zbBrowserSignalManager::ColumnCreated, column);
-    return context_.State();
+    return true;
 }
 
 bool ColumnSet::Delete(zbIBrowserViewColumn* column) {
@@ -191,34 +191,53 @@ void ColumnSet::ForgetSortBy(zbIBrowserViewColumn const* column) {
 
 // To all columns
 
-// Slots may add columns and delete them; those that are deleted meanwhile are left out.
+// Slots may add columns and delete them; those that are deleted meanwhile are not heard any more.
 template <class Visit>
 void ColumnSet::ForEach(Visit visit) {
     CallScope const scope(context_.Lifetime());
-    auto columns = scripted_.Snapshot();
+    auto const columns = scripted_.Snapshot();
     if (default_ != nullptr)
         visit(*default_);
-    for (auto* const column : columns) {
-        if (Find(column) != nullptr)
-            visit(*column);
-    }
+    for (auto* const column : columns)
+        visit(static_cast<ColumnBase&>(*column));
 }
 
 void ColumnSet::SetSorting(bool sorting) {
-    ForEach([sorting](zbIBrowserViewColumn& column) { column.SetSorting(sorting); });
+    ForEach([sorting](ColumnBase& column) { column.SetSorting(sorting); });
 }
 
 void ColumnSet::SetItalic(bool italic) {
-    ForEach([italic](zbIBrowserViewColumn& column) { column.SetItalic(italic); });
+    ForEach([italic](ColumnBase& column) { column.SetItalic(italic); });
 }
 
 void ColumnSet::OnGuiMapDeleted(zbString const& name) {
-    ForEach(
-        [&name](zbIBrowserViewColumn& column) { column.GetStyleManager()->OnGuiMapDeleted(name); });
+    ForEach([&name](ColumnBase& column) { column.OnGuiMapDeleted(name); });
 }
 
 void ColumnSet::OnViewPropertyDeleted(zbIBrowserViewProperty* property) {
     context_.Styles().OnViewPropertyDeleted(property);
+}
+
+// Styles of items
+
+zbIBrowserStyle* ColumnSet::StyleOf(zbIBrowserViewColumn const* column,
+                                    zbIBrowserViewItem* item) const {
+    auto* const own = static_cast<ColumnBase*>(Find(column));
+    return own == nullptr ? nullptr : own->GetViewItemStyle(item);
+}
+
+bool ColumnSet::GiveStyle(zbIBrowserViewItem* item) {
+    if (default_ == nullptr || !context_.Owns(item))
+        return false;
+    default_->AddFolderStyle(item);
+    return true;
+}
+
+bool ColumnSet::TakeStyles(zbIBrowserViewItem* item) {
+    if (default_ == nullptr || !context_.Owns(item))
+        return false;
+    default_->RemoveFolderStyles(item);
+    return true;
 }
 
 void ColumnSet::OnFolderGone(zbIBrowserViewItem const& folder) {

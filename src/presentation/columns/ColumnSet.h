@@ -13,10 +13,12 @@
 #include <memory>
 #include <vector>
 
+class zbIBrowserStyle;
 class zbIBrowserViewProperty;
 
 namespace zbbrowser::detail {
 
+class ColumnBase;
 class CustomColumn;
 class DefaultColumn;
 class ViewContext;
@@ -70,6 +72,16 @@ public:
     void OnGuiMapDeleted(zbString const& name);
     //! Reaches the elements too that are in no style or column any more.
     void OnViewPropertyDeleted(zbIBrowserViewProperty* property);
+    //! \}
+
+    //! \name Styles of items
+    //! \{
+    //! Null: for a column that is not one of this view's.
+    zbIBrowserStyle* StyleOf(zbIBrowserViewColumn const* column, zbIBrowserViewItem* item) const;
+    //! False: for an item that is not of this view, and without a default column. True for any
+    //! other, also when it is given nothing.
+    bool GiveStyle(zbIBrowserViewItem* item);
+    bool TakeStyles(zbIBrowserViewItem* item);
     //! \}
 
     //! Forgets the styles of a folder that is going.

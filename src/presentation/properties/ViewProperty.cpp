@@ -44,10 +44,12 @@ ViewProperty::ViewProperty(detail::NewViewContext& context, zbString const& name
     , context_(context) {
 }
 
+// The list may have been deleted by what is running here.
 bool ViewProperty::SetScripts(char const* setScript, char const* getScript,
                               char const* linkedProperty) {
-    if (linkedProperty != nullptr) {
-        auto* const found = context_.Properties()->Find(linkedProperty);
+    auto const* const list = context_.Properties();
+    if (list != nullptr && linkedProperty != nullptr) {
+        auto* const found = list->Find(linkedProperty);
         linked_ = found == nullptr ? linked_ : found;
     }
     return ViewPropertyBase::SetScripts(setScript, getScript, linkedProperty);
@@ -62,35 +64,38 @@ zbIBrowserDataProperty* ViewProperty::GetDataProperty(zbIBrowserDataSource* sour
     return Connected(source);
 }
 
-bool ViewProperty::FindCell(zbIBrowserViewItem const& item, Cell& cell) const {
-    if (item.GetView() != GetView() || !item.IsDataNode())
-        return false;
-    cell.data = item.GetDataItem();
-    cell.source = cell.data == nullptr ? nullptr : cell.data->GetDataSource();
-    cell.property = Connected(cell.source);
-    return true;
+bool ViewProperty::IsRow(zbIBrowserViewItem const& item) const {
+    return item.GetView() == GetView() && item.IsDataNode();
 }
 
-bool ViewProperty::Position(zbIBrowserDataCtrl* ctrl, Cell const& cell) const {
+bool ViewProperty::Position(zbIBrowserViewItem const& item) const {
+    return IsRow(item) && Position(context_.DataCtrl(), item);
+}
+
+// The control may change scripts and connections, so they are looked up behind this.
+bool ViewProperty::Position(zbIBrowserDataCtrl* ctrl, zbIBrowserViewItem const& row) const {
     if (ctrl != nullptr)
-        ctrl->SetCurrentDataItem(cell.data);
+        ctrl->SetCurrentDataItem(row.GetDataItem());
     return context_.IsAlive();
 }
 
-bool ViewProperty::PositionView(Cell const& cell) const {
-    return Position(context_.DataCtrl(), cell);
+// Once the view has gone, the host may have freed what is connected.
+zbIBrowserDataSource* ViewProperty::SourceOf(zbIBrowserViewItem const& row) const {
+    auto const* const data = row.GetDataItem();
+    auto* const source = data == nullptr ? nullptr : data->GetDataSource();
+    return context_.IsAlive() ? source : nullptr;
 }
 
 bool ViewProperty::GetValue(zbIBrowserViewItem* item, zbVariant& out) {
     CallScope const scope(context_.Lifetime());
-    Cell cell;
-    if (item == nullptr || !FindCell(*item, cell) || !PositionView(cell))
+    if (item == nullptr || !Position(*item))
         return false;
     if (HasGetScript()) {
         out = RunScript(GetScript());
         return true;
     }
-    return cell.property != nullptr && cell.property->GetVariant(out);
+    auto* const property = Connected(SourceOf(*item));
+    return property != nullptr && property->GetVariant(out);
 }
 
 // A set script works on free folders only, and a row is none.
@@ -100,25 +105,24 @@ bool ViewProperty::SetValue(zbIBrowserViewItem* item, zbVariant value) {
     if (!item->IsDataNode())
         return true;
     CallScope const scope(context_.Lifetime());
-    Cell cell;
-    if (TypeOf(value) != GetDataType() || !FindCell(*item, cell) || !PositionView(cell))
+    if (TypeOf(value) != GetDataType() || !Position(*item) || HasSetScript())
         return false;
-    return !HasSetScript() && cell.property != nullptr &&
-           cell.property->SetVariant(std::move(value));
+    auto* const property = Connected(SourceOf(*item));
+    return property != nullptr && property->SetVariant(std::move(value));
 }
 
 bool ViewProperty::SetBooleanValue(zbIBrowserViewItem* item, bool value) {
     CallScope const scope(context_.Lifetime());
-    Cell cell;
-    if (GetDataType() != ZBBROWSER_DATA_TYPE_BOOLEAN || item == nullptr || !FindCell(*item, cell) ||
-        cell.source == nullptr || linked_ == nullptr)
+    if (GetDataType() != ZBBROWSER_DATA_TYPE_BOOLEAN || item == nullptr || !IsRow(*item) ||
+        linked_ == nullptr)
         return false;
-    auto* const ctrl = cell.source->GetDataCtrl();
-    auto* const linked = linked_->GetDataProperty(cell.source);
-    if (ctrl == nullptr || linked == nullptr || !Position(ctrl, cell))
+    auto* const source = SourceOf(*item);
+    auto* const ctrl = source == nullptr ? nullptr : source->GetDataCtrl();
+    if (ctrl == nullptr || linked_->GetDataProperty(source) == nullptr || !Position(ctrl, *item))
         return false;
     zbVariant text;
-    linked->GetVariant(text);
+    if (auto* const linked = linked_->GetDataProperty(source); linked != nullptr)
+        linked->GetVariant(text);
     if (!HasSetScript())
         return false;
     RunScript(SetScript() + " " + ToText(text) + (value ? " true\n" : " false\n"));
@@ -168,14 +172,14 @@ bool ViewPropertyDefaultText::GetGroupValue(zbIBrowserViewItem const& item, zbVa
 }
 
 bool ViewPropertyDefaultText::GetRowValue(zbIBrowserViewItem const& item, zbVariant& out) const {
-    Cell cell;
-    if (!FindCell(item, cell) || !PositionView(cell))
+    if (!Position(item))
         return false;
-    if (cell.property != nullptr)
-        return cell.property->GetVariant(out);
-    if (kind_ == detail::DefaultText::Name || cell.source == nullptr)
+    auto* const source = SourceOf(item);
+    if (auto* const property = Connected(source); property != nullptr)
+        return property->GetVariant(out);
+    if (kind_ == detail::DefaultText::Name || source == nullptr)
         return false;
-    out = cell.source->GetName();
+    out = source->GetName();
     return true;
 }
 

@@ -32,21 +32,19 @@ public:
     //! \}
 
 protected:
-    //! Where the value of a row is found. What there is not is null.
-    struct Cell {
-        zbIBrowserDataItem* data = nullptr;
-        zbIBrowserDataSource* source = nullptr;
-        zbIBrowserDataProperty* property = nullptr;
-    };
-    //! Finds the cell of a row. False: it is no row of this view.
-    bool FindCell(zbIBrowserViewItem const& item, Cell& cell) const;
-    //! Tells a control which row is meant. False: that has deleted the view.
-    bool Position(zbIBrowserDataCtrl* ctrl, Cell const& cell) const;
-    bool PositionView(Cell const& cell) const;
+    //! Tells the view's data control which row is meant. False: it is no row of this view, or the
+    //! control has deleted the view.
+    bool Position(zbIBrowserViewItem const& item) const;
+    //! The source of a row. Null without data or source, and once the question has deleted the
+    //! view.
+    zbIBrowserDataSource* SourceOf(zbIBrowserViewItem const& row) const;
 
     detail::NewViewContext& Context() const { return context_; }
 
 private:
+    bool IsRow(zbIBrowserViewItem const& item) const;
+    bool Position(zbIBrowserDataCtrl* ctrl, zbIBrowserViewItem const& row) const;
+
     detail::NewViewContext& context_;
     zbIBrowserViewProperty* linked_ = nullptr; // Not owned; of the same list, and so as old
 };

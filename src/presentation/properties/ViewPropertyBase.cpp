@@ -43,13 +43,6 @@ bool ViewPropertyBase::Disconnect(zbIBrowserDataSource* source) {
     return connections_.erase(source) > 0;
 }
 
-zbIBrowserDataProperty* ViewPropertyBase::Connected(zbIBrowserDataSource* source) const {
-    if (source == nullptr)
-        return nullptr;
-    auto const found = connections_.find(source);
-    return found == connections_.end() ? nullptr : found->second;
-}
-
 // A running script may give this property other scripts, so it is a copy that runs.
 zbString ViewPropertyBase::RunScript(zbString const& script, zbString const& argument) const {
     zbString result;

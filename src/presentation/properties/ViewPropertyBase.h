@@ -78,7 +78,10 @@ protected:
 
     Connections const& AllConnections() const { return connections_; }
     //! Null: for null and without a connection.
-    zbIBrowserDataProperty* Connected(zbIBrowserDataSource* source) const;
+    zbIBrowserDataProperty* Connected(zbIBrowserDataSource* source) const {
+        auto const found = source == nullptr ? connections_.end() : connections_.find(source);
+        return found == connections_.end() ? nullptr : found->second;
+    }
 
     bool HasGetScript() const { return !getScript_.empty(); }
     bool HasSetScript() const { return !setScript_.empty(); }

@@ -53,6 +53,7 @@ zbIBrowserDataProperty* zbBrowserViewProperty::GetDataProperty(zbIBrowserDataSou
     return Connected(source);
 }
 
+// If the host deletes the view while it is asked, it may have freed what is connected.
 zbBrowserViewProperty::Cell zbBrowserViewProperty::CellOf(zbIBrowserViewItem const* item) const {
     Cell cell;
     if (item == nullptr)
@@ -65,6 +66,8 @@ zbBrowserViewProperty::Cell zbBrowserViewProperty::CellOf(zbIBrowserViewItem con
     }
     if (cell.data != nullptr)
         cell.source = cell.data->GetDataSource();
+    if (!context_.IsAlive())
+        return {};
     cell.property = Connected(cell.source);
     return cell;
 }

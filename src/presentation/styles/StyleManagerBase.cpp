@@ -14,8 +14,9 @@ namespace zbbrowser::detail {
 
 StyleManagerBase::StyleManagerBase(zbIBrowserViewColumn& column, ViewContext& context)
     : column_(column)
+    , isDefault_(column.IsDefault())
     , context_(context) {
-    if (column_.IsDefault())
+    if (isDefault_)
         CreateDefaultStyle();
 }
 
@@ -47,7 +48,7 @@ bool StyleManagerBase::IsTaken(zbString const& name) {
 }
 
 bool StyleManagerBase::CreateStyle(zbString const& name) {
-    return !IsTaken(name) && Add(new zbBrowserStyle(context_, name));
+    return !name.empty() && !IsTaken(name) && Add(new zbBrowserStyle(context_, name));
 }
 
 bool StyleManagerBase::Add(zbIBrowserStyle* style) {
@@ -185,7 +186,7 @@ void StyleManagerBase::OnGuiMapDeleted(zbString const& name) {
 // Styles of folders
 
 bool StyleManagerBase::AddFolderStyle(zbIBrowserViewItem* folder) {
-    if (!column_.IsDefault() || !IsFreeFolder(folder) || context_.Ctrl() == nullptr)
+    if (!isDefault_ || !IsFreeFolder(folder) || context_.Ctrl() == nullptr)
         return false;
     if (current_ == nullptr || current_ == default_)
         return false;
@@ -194,7 +195,7 @@ bool StyleManagerBase::AddFolderStyle(zbIBrowserViewItem* folder) {
 }
 
 bool StyleManagerBase::RemoveFolderStyles(zbIBrowserViewItem* folder) {
-    return context_.Ctrl() != nullptr && folderStyles_.erase(folder) > 0;
+    return folderStyles_.erase(folder) > 0;
 }
 
 bool StyleManagerBase::RemoveFromFolders(zbBrowserStyle* style) {
@@ -214,7 +215,7 @@ StyleManagerBase::Sources* StyleManagerBase::CurrentSources(zbIBrowserViewItem c
 bool StyleManagerBase::SetSourceStyle(zbIBrowserViewItem* folder, zbIBrowserDataSource* source,
                                       bool flag) {
     auto* sources = CurrentSources(folder);
-    if (sources == nullptr || source == nullptr || context_.Ctrl() == nullptr)
+    if (sources == nullptr || source == nullptr)
         return false;
     CallScope const scope(context_.Lifetime());
     auto const entry = sources->find(source);
@@ -245,10 +246,12 @@ zbIBrowserStyle* StyleManagerBase::GetViewItemStyle(zbIBrowserViewItem* item) {
 }
 
 zbBrowserStyle* StyleManagerBase::StyleOf(zbIBrowserViewItem& item) const {
+    if (item.IsDataLeaf()) // Asked first, since nearly all items are leaves
+        return StyleOfRow(item);
     auto const isFreeFolder = item.IsFreeFolder();
     if (!isFreeFolder && !item.IsDependentFolder() && !item.IsGroupingFolder())
         return StyleOfRow(item);
-    if (column_.IsDefault())
+    if (isDefault_)
         return default_;
     auto const isStyled =
         isFreeFolder && static_cast<zbIBrowserViewItemFreeFolder&>(item).GetFreeFolderStyle();
@@ -256,7 +259,7 @@ zbBrowserStyle* StyleManagerBase::StyleOf(zbIBrowserViewItem& item) const {
 }
 
 zbBrowserStyle* StyleManagerBase::StyleOfRow(zbIBrowserViewItem const& row) const {
-    auto* style = column_.IsDefault() ? default_ : current_;
+    auto* style = isDefault_ ? default_ : current_;
     if (folderStyles_.empty())
         return style;
     auto const* folder = row.GetParent();

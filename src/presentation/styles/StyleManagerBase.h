@@ -25,14 +25,14 @@ public:
     StyleManagerBase& operator=(StyleManagerBase const&) = delete;
     ~StyleManagerBase() override;
 
-    zbIBrowserViewColumn* GetColumn() const override { return &column_; }
+    zbIBrowserViewColumn* GetColumn() const final { return &column_; }
     bool CreateStyle(zbString const& name) override;
     bool DeleteStyle(zbIBrowserStyle* style) override;
     zbIBrowserStyle* FindStyle(zbString const& name) const override;
     bool GetStyles(std::vector<zbIBrowserStyle*>& out) const override;
     bool AddFolderStyle(zbIBrowserViewItem* folder) override;
     bool RemoveFolderStyles(zbIBrowserViewItem* folder) override;
-    zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewItem* item) override;
+    zbIBrowserStyle* GetViewItemStyle(zbIBrowserViewItem* item) final;
     bool DeleteStyleElement(zbIBrowserStyleElement* element) override;
     bool SetCurrentStyle(zbIBrowserStyle* style) override;
     void OnViewPropertyDeleted(zbIBrowserViewProperty* property) override;
@@ -93,6 +93,7 @@ private:
     Styles styles_;                     // In order of creation
     Styles former_;                     // Taken out, and still pointing here
     zbIBrowserViewColumn& column_;
+    bool const isDefault_; // The column is the default one
     ViewContext& context_;
 };
 

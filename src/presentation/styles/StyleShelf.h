@@ -3,10 +3,11 @@
 //! All styles and style elements of one view.
 #pragma once
 
-#include <unordered_map>
+#include "containers/PointerList.h"
 
 class zbBrowserStyle;
 class zbBrowserStyleElement;
+class zbBrowserViewCtrl;
 class zbIBrowserStyle;
 class zbIBrowserStyleElement;
 class zbIBrowserViewColumn;
@@ -46,16 +47,20 @@ public:
     void OnViewPropertyDeleted(zbIBrowserViewProperty const* property) const;
 
     //! Raise `StyleCreated` and `StyleDeleted`, unless the view has been given up.
-    //! \return whether the style is still there afterwards
+    //! Requires: an operation of the view is running.
+    //! \return false if a slot has deleted the style or the view
+    //! \{
     bool TellCreated(zbIBrowserStyle& style) const;
     bool TellDeleted(zbIBrowserStyle& style) const;
+    //! \}
 
 private:
-    bool CanTell() const;
+    using Event = void (zbBrowserViewCtrl::*)(zbIBrowserStyle*);
+    bool Tell(Event event, zbIBrowserStyle& style) const;
 
     ViewContext& context_;
-    std::unordered_map<zbIBrowserStyle const*, zbBrowserStyle*> styles_;                 // Owned
-    std::unordered_map<zbIBrowserStyleElement const*, zbBrowserStyleElement*> elements_; // Owned
+    PointerList<zbIBrowserStyle> styles_;          // Owned; zbBrowserStyles
+    PointerList<zbIBrowserStyleElement> elements_; // Owned; zbBrowserStyleElements
 };
 
 } // namespace zbbrowser::detail

@@ -198,7 +198,8 @@ void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemHierarchical* const item
     Report("OnDataItemUpdated", {"tree", Text(item)});
 }
 
-void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemSimple* const item) {
+void zbBrowserView::OnDataItemUpdated(zbIBrowserDataItemSimple* const item,
+                                      zbIBrowserDataSourceSimple const* /*source*/) {
     Report("OnDataItemUpdated", {"flat", Text(item)});
 }
 

@@ -23,7 +23,8 @@ public:
     void OnDataItemReparented(zbIBrowserDataItemHierarchical* const item,
                               zbIBrowserDataItemHierarchical* const newParent);
     void OnDataItemUpdated(zbIBrowserDataItemHierarchical* const item);
-    void OnDataItemUpdated(zbIBrowserDataItemSimple* const item);
+    void OnDataItemUpdated(zbIBrowserDataItemSimple* const item,
+                           zbIBrowserDataSourceSimple const* source);
     void OnDataSourceRenumbered(zbIBrowserDataSourceSimple* source);
     void OnAllDirtyDataListsRebuild();
     void OnDataItemsRebuildAll();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! The view of the new generation as an object: name, data control, connections, lock, switches.
-#include "control/NewViewTest.h"
+#include "NewViewTest.h"
 #include "support/SignalRecorder.h"
 
 #include <zbBrowserView/host/PendingViewChangeInfo.h>
@@ -20,8 +20,68 @@ TEST_F(NewView, KnowsItsNameAndItsController) {
     EXPECT_EQ(view.GetSignalManager(), &host.signals);
 }
 
-TEST_F(NewView, IsNew) {
+TEST_F(NewView, StartsNewWithItsDefaultPropertiesItsDefaultColumnAndAnEmptyRoot) {
+    std::vector<zbIBrowserViewProperty*> properties;
+    std::vector<zbIBrowserViewColumn*> columns;
+    std::vector<zbIBrowserViewItemFreeFolder*> folders;
+
     EXPECT_TRUE(view.IsNewView());
+    EXPECT_TRUE(view.GetViewPropertyList(properties));
+    EXPECT_THAT(properties, ElementsAre(view.FindViewProperty("default_name_prop"),
+                                        view.FindViewProperty("default_icon_name_prop"),
+                                        view.FindViewProperty("default_bold_text_prop"),
+                                        view.FindViewProperty("default_italic_text_prop")));
+    EXPECT_TRUE(view.GetColumns(columns));
+    EXPECT_THAT(columns, ElementsAre(view.GetDefaultColumn()));
+    EXPECT_NE(view.GetDefaultColumn(), nullptr);
+    EXPECT_TRUE(view.GetRootFreeFolder()->GetChildFreeFolders(folders, false, true));
+    EXPECT_THAT(folders, IsEmpty());
+    EXPECT_EQ(view.GetSortedColumn(), nullptr);
+    EXPECT_EQ(view.GetLastFindStartPoint(), nullptr);
+}
+
+TEST_F(NewView, ListsItsDefaultColumnFirst) {
+    std::vector<zbIBrowserViewColumn*> columns;
+
+    EXPECT_TRUE(view.CreateButtonColumn("mass", ""));
+
+    EXPECT_TRUE(view.GetColumns(columns));
+    EXPECT_THAT(columns, ElementsAre(view.GetDefaultColumn(), view.FindColumn("mass")));
+}
+
+TEST_F(NewView, KeepsItsDefaultProperties) {
+    auto* const name = view.FindViewProperty("default_name_prop");
+
+    EXPECT_FALSE(view.DeleteViewProperty(name));
+
+    EXPECT_EQ(view.FindViewProperty("default_name_prop"), name);
+}
+
+TEST_F(NewView, ComesAndGoesSilently) {
+    SignalRecorder recorder(host);
+
+    auto& other = host.NewView("other");
+    other.CreateFreeFolder(other.GetRootFreeFolder(), "tools");
+    other.CreateButtonColumn("mass", "");
+    recorder.Discard();
+    EXPECT_TRUE(host.DeleteView(other));
+
+    EXPECT_THAT(recorder.take(), IsEmpty());
+}
+
+TEST_F(NewView, HasNoFilter) {
+    view.CreateFilterHandler();
+    EXPECT_EQ(view.GetFilterHandlerImpl(), nullptr);
+    view.DeleteFilterHandler();
+}
+
+TEST_F(NewView, StoresTheLastFindStartPointAndNeverFollowsIt) {
+    // Compared only, so anything will do for an item
+    auto* const item = reinterpret_cast<zbIBrowserViewItem*>(&host);
+
+    view.SetLastFindStartPoint(item);
+
+    EXPECT_EQ(view.GetLastFindStartPoint(), item);
 }
 
 TEST_F(NewView, KeepsTheDataControlThatIsSet) {
@@ -121,7 +181,15 @@ TEST_F(NewView, FindsAConnectedSourceByItsExactName) {
     EXPECT_EQ(view.FindConnected("PART"), nullptr);
     EXPECT_EQ(view.FindConnected("idle"), nullptr);
     EXPECT_EQ(view.FindConnected(""), nullptr);
+}
+
+TEST_F(NewView, AsksNoSourceForANullName) {
+    ConnectSource("part", true);
+    host.calls.ForgetCounts();
+
     EXPECT_EQ(view.FindConnected(nullptr), nullptr);
+
+    EXPECT_EQ(host.calls.Count("GetName"), 0U);
 }
 
 TEST_F(NewView, FindsTheFirstByPointerOfSourcesOfOneName) {
@@ -172,19 +240,65 @@ TEST_F(NewView, MayBeDeletedByADataControlThatIsAskedForItsName) {
     EXPECT_EQ(host.Controller().FindView("parts"), nullptr);
 }
 
-TEST_F(NewView, CopiedShowsTheSameDataAndIsNoViewOfTheController) {
-    struct Copy : zbbrowser::View {
-        explicit Copy(zbbrowser::View const& other)
-            : View(other) {}
-    };
+// Once it is given up, the host may free its data.
+TEST_F(NewView, LetsGoOfTheHostsDataWhenItIsDeletedFromWithin) {
+    auto& uses = host.Control().Reference("uses", host.Source("part"), host.Source("tool"));
     ConnectSource("part", true);
+    view.Connect(&uses, true);
+    SignalRecorder recorder(host);
+    auto const handle = recorder.On(&zbBrowserSignalManager::EmptyFoldersShown, [&](auto*, bool) {
+        host.DeleteView(view);
+        EXPECT_EQ(view.GetDataCtrl(), nullptr);
+        EXPECT_THAT(Sources(), IsEmpty());
+        EXPECT_THAT(References(), IsEmpty());
+    });
+
+    view.ShowEmptyFolders(false);
+
+    recorder.Discard();
+}
+
+struct Copy : zbbrowser::View {
+    explicit Copy(zbbrowser::View const& other)
+        : View(other) {}
+};
+
+TEST_F(NewView, CopiedHasTheSwitchesOfTheOriginal) {
+    view.SetSorting(false);
     view.SetItalic(false);
+    view.ShowEmptyFolders(false);
+    view.Lock(true);
+
+    Copy const copy(view);
+
+    EXPECT_FALSE(copy.GetSorting());
+    EXPECT_FALSE(copy.GetItalic());
+    EXPECT_FALSE(copy.GetShowEmptyFoldersFlag());
+    EXPECT_TRUE(copy.IsLocked());
+}
+
+TEST_F(NewView, AssignedToTakesTheSwitches) {
+    Copy const before(view);
+    view.SetSorting(false);
+    view.SetItalic(false);
+    view.ShowEmptyFolders(false);
+    view.Lock(true);
+
+    view = before;
+
+    EXPECT_TRUE(view.GetSorting());
+    EXPECT_TRUE(view.GetItalic());
+    EXPECT_TRUE(view.GetShowEmptyFoldersFlag());
+    EXPECT_FALSE(view.IsLocked());
+}
+
+TEST_F(NewView, CopiedShowsTheSameDataAndIsNoViewOfTheController) {
+    ConnectSource("part", true);
     {
         Copy copy(view);
         EXPECT_EQ(copy.GetName(), "parts");
         EXPECT_EQ(copy.GetDataCtrl(), &host.Control());
         EXPECT_EQ(copy.FindConnected("part"), &host.Source("part"));
-        EXPECT_FALSE(copy.GetItalic());
         EXPECT_FALSE(host.DeleteView(copy));
 
         copy.Connect(static_cast<zbIBrowserDataSource*>(&host.Source("part")), false);
@@ -272,10 +386,6 @@ TEST_F(NewView, AnswersTrueForColumnsThatAreNotItsOwn) {
     EXPECT_FALSE(view.ShowScriptedColumn(nullptr, true));
     EXPECT_TRUE(view.DeleteScriptedColumn(column));
     EXPECT_TRUE(view.ShowScriptedColumn(column, true));
-}
-
-TEST_F(NewView, HasAnEmptyNameForTheCollectorsGuiMap) {
-    EXPECT_STREQ(view.GetCollectorGuiMapName(), "");
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "support/RecordingHost.h"
 
 #include <zbBrowserView/View.h>
+#include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 
 #include <gmock/gmock.h>
 
@@ -32,6 +33,14 @@ protected:
         EXPECT_TRUE(view.GetConnected(references));
         return references;
     }
+
+    zbIBrowserViewItemFreeFolder& Root() { return *view.GetRootFreeFolder(); }
+
+    zbIBrowserViewItemFreeFolder& Make(zbIBrowserViewItemFreeFolder& parent, char const* name) {
+        EXPECT_TRUE(view.CreateFreeFolder(&parent, name));
+        return *parent.FindChildFreeFolder(name);
+    }
+    zbIBrowserViewItemFreeFolder& Make(char const* name) { return Make(Root(), name); }
 
     bool ConnectSource(char const* name, bool connect) {
         zbIBrowserDataSource* const source = &host.Source(name);

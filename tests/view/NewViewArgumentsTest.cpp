@@ -2,7 +2,7 @@
 //! \file
 //! How the view of the new generation tests the folders and items that it is given.
 #include "control/ItemDoubles.h"
-#include "control/NewViewTest.h"
+#include "NewViewTest.h"
 
 namespace zbtest {
 namespace {
@@ -68,13 +68,6 @@ INSTANTIATE_TEST_SUITE_P(
         FolderOperation{"CollapseFreeFolder",
                         [](auto& v, auto* folder) { v.CollapseFreeFolder(folder, true); }}),
     [](auto const& each) { return std::string(each.param.name); });
-
-TEST_F(NewView, RefusesToCreateOrDeleteFoldersWhileLockedWithoutLookingAtThem) {
-    view.Lock(true);
-
-    EXPECT_FALSE(view.CreateFreeFolder(nullptr, "x"));
-    EXPECT_FALSE(view.DeleteFreeFolder(nullptr, true));
-}
 
 TEST_F(NewView, DeletesNoFolder) {
     FolderDouble folder(&view, "tools");
