@@ -103,10 +103,11 @@ bool zbBrowserFreeFolderContentNoGrouping::RefreshListItems(Simple* source, bool
     auto const bracket = BeginLongOperation(Context());
     auto const leaves = leaves_.SnapshotOf(source);
     std::vector<Leaf const*> dirty;
+    constexpr std::size_t near = prefetchDistance;
     for (std::size_t i = 0; i < leaves.size(); ++i) {
-        if (i + 2 * prefetchDistance < leaves.size()) {
-            Prefetch(leaves[i + 2 * prefetchDistance]);
-            Prefetch(leaves[i + prefetchDistance]->GetDataItemSimple());
+        if (i + 2 * near < leaves.size()) {
+            Prefetch(leaves[i + 2 * near]);
+            Prefetch(leaves[i + near]->GetDataItemSimple());
         }
         auto& leaf = *leaves[i];
         if (!IsStillListed(leaf) || !IsDirty(*source, leaf))
