@@ -122,18 +122,18 @@ zbIBrowserDataProperty& Source::NameProperty() const {
     return *rowName_;
 }
 
-//! A cast costs more than a comparison of addresses, and painting and sorting ask a million times.
+//! A checked cast costs more than a comparison of addresses, and painting and sorting ask a million
+//! times.
 Property const* Source::AsColumn(zbIBrowserDataProperty const* property) const {
-    auto const* const own = static_cast<Property const*>(property);
-    auto const isAmong = [own](std::vector<Property> const& properties) {
-        std::less_equal<> const notAfter;
-        return !properties.empty() && notAfter(&properties.front(), own) &&
-               notAfter(own, &properties.back());
+    auto const isAmong = [property](std::vector<Property> const& properties) {
+        std::less_equal<zbIBrowserDataProperty const*> const notAfter;
+        return !properties.empty() && notAfter(&properties.front(), property) &&
+               notAfter(property, &properties.back());
     };
     bool const isOwn =
         isAmong(properties_) || std::any_of(former_.begin(), former_.end(),
                                             [&](Former const& f) { return isAmong(f.properties); });
-    return isOwn ? own : nullptr;
+    return isOwn ? static_cast<Property const*>(property) : nullptr;
 }
 
 std::size_t Source::IndexOf(Row const& row) const {
