@@ -4,6 +4,7 @@
 #include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
 #include <zbBrowserView/host/zbIBrowserDataSourceSimple.h>
 #include <zbBrowserView/zbBrowserView.h>
+#include <zbBrowserView/zbIBrowserSelectionManager.h>
 #include <zbBrowserView/zbIBrowserViewItem.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 
@@ -82,12 +83,13 @@ std::string TextOf(Value const& value) {
 } // namespace
 
 ViewReader::ViewReader(zbIBrowserView const& view, RowReader const& rows, std::size_t rowLimit,
-                       std::optional<PaintOptions> const& paint)
+                       std::optional<PaintOptions> const& paint, Extent extent)
     : view_(view)
     , rows_(rows)
     , rowLimit_(rowLimit)
     , paint_(paint.value_or(PaintOptions{}))
-    , painter_(paint ? std::make_shared<Painter>(view, rows) : nullptr) {
+    , painter_(paint ? std::make_shared<Painter>(view, rows) : nullptr)
+    , extent_(extent) {
 }
 
 std::unique_ptr<SourceList> ViewReader::MakeList(zbIBrowserDataSourceSimple& source) const {
@@ -100,6 +102,10 @@ void ViewReader::Deal(zbIBrowserViewItemFreeFolder const& folder, SourceLists co
     std::vector<zbIBrowserViewItem*> items;
     // A folder that has lists stands in an old view.
     static_cast<zbBrowserView const&>(view_).GetChildren(items, &folder);
+    if (extent_ == Extent::Selected) {
+        auto* const selection = view_.GetSelectionManager();
+        std::erase_if(items, [&](auto* item) { return !selection->IsViewItemSelected(item); });
+    }
     if (lists.size() == 1) {
         Fill(*lists.front(), items, rowLimit_);
         return;

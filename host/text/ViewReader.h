@@ -17,6 +17,9 @@ class zbIBrowserViewItemFreeFolder;
 
 namespace zbtext {
 
+//! Which rows of a list are read.
+enum class Extent { All, Selected };
+
 //! Reads a view the way any painter does: it asks for folders, for the lists in them and for the
 //! items below them, and for nothing that is not shown.
 //!
@@ -24,9 +27,11 @@ namespace zbtext {
 class ViewReader {
 public:
     //! `rowLimit` is the most rows that a list hands out; its total counts all. With `paint`, names
-    //! and cells come through the view's columns; otherwise each list has its source's own.
+    //! and cells come through the view's columns; otherwise each list has its source's own. Rows
+    //! beyond the `extent` are passed over as if they were not there.
     ViewReader(zbIBrowserView const& view, RowReader const& rows, std::size_t rowLimit,
-               std::optional<PaintOptions> const& paint = std::nullopt);
+               std::optional<PaintOptions> const& paint = std::nullopt,
+               Extent extent = Extent::All);
 
     //! The whole view, its root folder under the view's name. A view of the new generation has no
     //! lists.
@@ -44,6 +49,7 @@ private:
     std::size_t rowLimit_;
     PaintOptions paint_;
     std::shared_ptr<Painter> painter_; // Null: nothing is painted.
+    Extent extent_;
 };
 
 } // namespace zbtext

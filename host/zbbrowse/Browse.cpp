@@ -10,6 +10,7 @@
 #include "zbbrowse/Options.h"
 #include "zbbrowse/OutputFile.h"
 #include "zbbrowse/Terminal.h"
+#include "zbbrowse/Watch.h"
 
 #include <zbBrowserView/platform/zbString.h>
 
@@ -24,8 +25,13 @@ namespace zbbrowse {
 namespace {
 
 constexpr int kTrouble = 2;
-constexpr std::size_t kRowsInPicture = 3;
 constexpr std::size_t kAllRows = static_cast<std::size_t>(-1);
+
+//! What is selected is worth seeing whole.
+std::size_t RowsInPicture(Options const& options) {
+    constexpr std::size_t usual = 3;
+    return options.limit.value_or(options.select.empty() ? usual : kAllRows);
+}
 
 std::unique_ptr<zbtext::ListWriter> MakeWriter(Format format, zbtext::Output& output,
                                                zbtext::TextStyle const& style) {
@@ -57,8 +63,7 @@ int ReportFaults(OpenView const& view) {
 
 //! A picture shows what can be shown, and marks what cannot; the exit status tells of it.
 int WriteView(OpenView const& view, Options const& options, zbtext::ListWriter& writer) {
-    auto const rows = options.limit.value_or(kRowsInPicture);
-    writer.WriteView(view.ReadView(rows, !writer.NamesRows()));
+    writer.WriteView(view.ReadView(RowsInPicture(options), !writer.NamesRows()));
     return ReportFaults(view);
 }
 
@@ -68,6 +73,26 @@ int WriteLists(OpenView const& view, Options const& options, zbtext::ListWriter&
     auto const rows = options.limit.value_or(kAllRows);
     writer.WriteLists(view.ReadLists(rows, !writer.NamesRows()));
     return 0;
+}
+
+//! Comes back only if there is nothing to watch.
+int WatchLists(Options const& options, Interrupt const& interrupt) {
+    auto const& stop = interrupt.GetFlag();
+    OpenView view(options, stop);
+    OutputFile const file({}, options.file);
+    PrepareTerminal(file);
+    zbtext::DescriptorSink sink(file.GetDescriptor(), &stop);
+    zbtext::Output output(sink, &stop);
+    Watch watch(view, options.format, output);
+    view.Load();
+    if (auto const status = ReportFaults(view); status != 0 && view.GetListCount() != 0)
+        return status;
+    Complain("watching " + options.file);
+    try {
+        watch.Run(file.GetDescriptor());
+    } catch (zbtext::OutputError const& error) {
+        throw Complaint(file.GetName() + ": " + error.what());
+    }
 }
 
 int Show(Options const& options, Interrupt const& interrupt) {
@@ -123,7 +148,7 @@ int Browse(int argc, char const* const* argv) {
     FillStandardDescriptors();
     Interrupt const interrupt;
     try {
-        return Show(*options, interrupt);
+        return options->watch ? WatchLists(*options, interrupt) : Show(*options, interrupt);
     } catch (zbtext::Stopped const&) {
         interrupt.End();
     } catch (zbtext::ClosedPipe const&) {

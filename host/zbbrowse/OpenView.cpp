@@ -6,7 +6,9 @@
 #include "zbbrowse/Appearance.h"
 #include "zbbrowse/Complaint.h"
 #include "zbbrowse/RowValues.h"
+#include "zbbrowse/Selection.h"
 #include "zbbrowse/Suggestion.h"
+#include "zbbrowse/WriteSelected.h"
 
 #include <zbBrowserView/zbBrowserView.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
@@ -29,6 +31,7 @@ std::string ViewName(Options const& options) {
 zbsqlite::HostOptions MakeHostOptions(Options const& options, std::atomic<bool> const& stop) {
     zbsqlite::HostOptions result;
     result.open.stop = &stop;
+    result.open.canWrite = !options.writes.empty();
     result.viewName = ViewName(options);
     if (options.newGeneration)
         result.generation = zbsqlite::Generation::New;
@@ -54,6 +57,8 @@ OpenView::OpenView(Options const& options, std::atomic<bool> const& stop)
     host_.Data().SetProgress([this](zbsqlite::Source const& source, std::uint64_t rows) {
         progress_.Show(source.GetName(), rows);
     });
+    if (!options_.writes.empty())
+        changes_.emplace(host_.Data(), host_.Controller());
     Resolve();
     if (IsPainted(options_))
         SetAppearance(host_.AnyView(), ShownSources(), options_);
@@ -88,7 +93,7 @@ void OpenView::Resolve() {
         for (auto const& name : folder.lists)
             Place(folder.path, FindSource(name));
     }
-    if (options_.folders.empty() && options_.lists.empty())
+    if (ShowsAll())
         PlaceByKind();
     for (auto* const source : lists_) {
         if (!IsPlaced(*source))
@@ -127,6 +132,46 @@ void OpenView::Load() {
     for (auto const& placement : placements_)
         LoadList(MakeFolder(placement.path), *placement.source);
     progress_.Clear();
+    if (!options_.select.empty())
+        SelectRows(host_.View(), options_.select);
+    if (changes_)
+        Write();
+}
+
+void OpenView::Write() {
+    WriteSelected(host_, options_.writes);
+    while (changes_->Poll() == zbsqlite::PollResult::Busy) {
+        if (stop_.load())
+            throw zbtext::Stopped();
+    }
+}
+
+void OpenView::PlaceAsAskedFor(zbsqlite::Source& source) {
+    auto const isMeant = [&](std::string const& name) {
+        return zbsqlite::IsSameName(name, source.GetName());
+    };
+    for (auto const& folder : options_.folders) {
+        if (std::any_of(folder.lists.begin(), folder.lists.end(), isMeant))
+            Place(folder.path, source);
+    }
+    auto const& lists = options_.lists;
+    bool const isListed = std::any_of(lists.begin(), lists.end(), isMeant);
+    if (ShowsAll() || (isListed && !IsPlaced(source)))
+        Place({KindFolder(source)}, source);
+}
+
+bool OpenView::Add(zbsqlite::Source& source) {
+    PlaceAsAskedFor(source);
+    if (options_.name) {
+        if (auto const* const column = source.FindDataProperty(options_.name->c_str()))
+            source.NameRowsBy(*column);
+    }
+    for (auto const& placement : placements_) {
+        if (placement.source == &source)
+            LoadList(MakeFolder(placement.path), source);
+    }
+    progress_.Clear();
+    return IsPlaced(source);
 }
 
 zbIBrowserViewItemFreeFolder& OpenView::MakeFolder(Path const& path) {
@@ -149,7 +194,8 @@ zbtext::Folder OpenView::ReadView(std::size_t rowLimit, bool namesAreColumns) co
     std::optional<zbtext::PaintOptions> paint;
     if (IsPainted(options_))
         paint = {.icons = options_.icon, .namesAreColumns = namesAreColumns};
-    return zbtext::ViewReader(host_.AnyView(), values, rowLimit, paint).ReadView();
+    auto const extent = options_.select.empty() ? zbtext::Extent::All : zbtext::Extent::Selected;
+    return zbtext::ViewReader(host_.AnyView(), values, rowLimit, paint, extent).ReadView();
 }
 
 std::vector<std::unique_ptr<zbtext::List>> OpenView::ReadLists(std::size_t rowLimit,

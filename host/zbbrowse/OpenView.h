@@ -7,11 +7,13 @@
 #include "zbbrowse/Options.h"
 #include "zbbrowse/Progress.h"
 
+#include <zbBrowserView/sqlite/Changes.h>
 #include <zbBrowserView/sqlite/Host.h>
 
 #include <atomic>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,8 +47,16 @@ public:
     //! A line for each list that could not be loaded.
     std::vector<std::string> GetFaults() const;
 
-    //! Puts the lists into their folders, which loads them.
+    //! Puts the lists into their folders, which loads them, and selects the rows that `--select`
+    //! names. Only these are read from then on, if there is such an option; first `--write` is
+    //! done to them. Throws what `WriteSelected` throws.
     void Load();
+
+    //! Takes in a table or view that has come since, if what the options ask for has a place for
+    //! it: by its name, or if they ask for nothing, as all others. False if not.
+    bool Add(zbsqlite::Source& source);
+
+    zbsqlite::Host& GetHost() { return host_; }
 
 private:
     using Path = std::vector<std::string>;
@@ -54,10 +64,13 @@ private:
     zbsqlite::Source& FindSource(std::string const& name);
     std::vector<std::string> NamesByRank() const;
     void Resolve();
+    void Write();
     std::vector<zbsqlite::Source*> ShownSources() const;
+    bool ShowsAll() const { return options_.folders.empty() && options_.lists.empty(); }
     bool IsPlaced(zbsqlite::Source const& source) const;
     void Place(Path path, zbsqlite::Source& source);
     void PlaceByKind();
+    void PlaceAsAskedFor(zbsqlite::Source& source);
     zbIBrowserViewItemFreeFolder& MakeFolder(Path const& path);
     void LoadList(zbIBrowserViewItemFreeFolder& folder, zbsqlite::Source& source);
 
@@ -71,7 +84,8 @@ private:
     std::atomic<bool> const& stop_;
     Progress progress_;
     zbsqlite::Host host_;
-    std::vector<zbsqlite::Source*> lists_; // Not owned; what --list names.
+    std::optional<zbsqlite::Changes> changes_; // Of what is written; none if nothing is.
+    std::vector<zbsqlite::Source*> lists_;     // Not owned; what --list names.
     std::vector<Placement> placements_;
 };
 

@@ -75,4 +75,12 @@ std::optional<SortOption> ReadSortOption(std::string const& text) {
     return option;
 }
 
+std::optional<WriteOption> ReadWriteOption(std::string const& text) {
+    Names names;
+    std::string_view rest = text;
+    if (!ReadNames(rest, '.', '=', names) || names.size() != 2 || HasEmptyName(names))
+        return std::nullopt;
+    return WriteOption{names[0], names[1], std::string(rest)};
+}
+
 } // namespace zbbrowse

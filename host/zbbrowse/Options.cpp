@@ -36,8 +36,22 @@ Text is cut to the width of the terminal, and not at all when it goes elsewhere.
 CSV is for one --list, or for the picture. In JSON a blob is {"$blob": "<base64>"},
 a text that is not UTF-8 {"$bytes": "<base64>"}.
 
+--select selects rows in all lists that are shown, and shows what is selected. In a
+pattern, which is for the whole name, * stands for any characters, ? for one, [abc] for
+one of these; case matters.
+
+--write writes to what --select selects, and shows it as it is then. All is written in
+one transaction: if anything fails, nothing is. VALUE is a text, which a column of
+numbers makes a number; in the names a backslash takes the meaning from . and =.
+
+--watch shows no rows, but a line for each that another program creates (+ name),
+updates (~ name) or deletes (- name) in these lists, and for each table or view that is
+new, gone or altered (! table part is gone). With --format jsonl, lines are
+{"change":"created","list":"part","name":"bolt"}, and list_created, list_deleted or
+list_altered without a name. It has begun when standard error says so.
+
 Exit status: 0 if all went well, also if a pipe was closed; 2 if not; 130 when
-interrupted.)";
+interrupted by Ctrl-C, 143 by SIGTERM.)";
 
 //! What is checked here, since the parser's own checks take -1 for a very large number and name the
 //! formats by number.
@@ -45,13 +59,15 @@ struct Unchecked {
     std::vector<std::string> folders;
     std::optional<std::string> columns;
     std::optional<std::string> sort;
+    std::vector<std::string> writes;
     std::string generation = "old";
     std::string limit;
     std::string format = "text";
 };
 
-void AddOptions(CLI::App& app, Options& options, Unchecked& unchecked) {
-    app.add_option("FILE", options.file, "The SQLite database to show; it is only read")
+//! What the view has in it.
+void AddViewOptions(CLI::App& app, Options& options, Unchecked& unchecked) {
+    app.add_option("FILE", options.file, "The SQLite database to show; only --write changes it")
         ->required()
         ->option_text(" ");
     app.add_option("--list", options.lists, "Show this table or view whole (repeatable)")
@@ -75,14 +91,33 @@ void AddOptions(CLI::App& app, Options& options, Unchecked& unchecked) {
         ->option_text("GENERATION");
     app.add_option("--view", options.view, "Name of the view; else that of the file")
         ->option_text("NAME");
+}
+
+//! What is done with it.
+void AddTaskOptions(CLI::App& app, Options& options, Unchecked& unchecked) {
     app.add_option("--limit", unchecked.limit,
-                   "Show at most N rows of each list; else 3 in the picture, and all with --list")
+                   "Show at most N rows of each list; else 3, and all with --list or --select")
         ->option_text("N");
+    app.add_option("--select", options.select,
+                   "Select rows by name and show no others (repeatable)")
+        ->option_text("PATTERN")
+        ->allow_extra_args(false);
+    app.add_option("--write", unchecked.writes,
+                   "Write VALUE to the selected rows of this table (repeatable)")
+        ->option_text("TABLE.COLUMN=VALUE")
+        ->allow_extra_args(false);
+    app.add_flag("--watch", options.watch,
+                 "Tell each change that another program makes, until Ctrl-C");
     app.add_option("--format", unchecked.format, "text, json, jsonl (one object a line) or csv")
         ->option_text("FORMAT");
     app.add_option("--output", options.output,
                    "Write to FILE, which appears when it is complete; else to standard output")
         ->option_text("FILE");
+}
+
+void AddOptions(CLI::App& app, Options& options, Unchecked& unchecked) {
+    AddViewOptions(app, options, unchecked);
+    AddTaskOptions(app, options, unchecked);
     app.set_help_flag("--help", "Show this text and stop");
     app.set_version_flag("--version", "zbbrowse " ZBBROWSE_VERSION, "Show the version and stop");
     app.footer(kFooter + 1);
@@ -149,6 +184,18 @@ std::string CheckColumns(Unchecked const& unchecked, Options& options) {
     return {};
 }
 
+std::string CheckWrites(Unchecked const& unchecked, Options& options) {
+    for (auto const& text : unchecked.writes) {
+        auto write = ReadWriteOption(text);
+        if (!write)
+            return "--write " + text + ": not TABLE.COLUMN=VALUE";
+        options.writes.push_back(std::move(*write));
+    }
+    return options.writes.empty() || !options.select.empty()
+               ? ""
+               : "--write needs --select, which says to what rows";
+}
+
 std::string CheckOutput(Unchecked const& unchecked, Options& options) {
     auto const format = ReadFormat(unchecked.format);
     if (!format)
@@ -160,16 +207,42 @@ std::string CheckOutput(Unchecked const& unchecked, Options& options) {
     return options.limit ? "" : "--limit " + unchecked.limit + ": not a number from 0 on";
 }
 
+//! What only says how rows are shown has no meaning where none are.
+std::string CheckWatch(Unchecked const& unchecked, Options& options) {
+    if (!options.watch)
+        return {};
+    if (options.format != Format::Text && options.format != Format::JsonLines)
+        return "--watch never comes to the end that --format " + unchecked.format +
+               " needs; text and jsonl do without";
+    if (!options.output.empty())
+        return "--watch never comes to the end at which the file of --output appears";
+    std::pair<bool, char const*> const showRows[] = {{options.limit.has_value(), "--limit"},
+                                                     {options.columns.has_value(), "--columns"},
+                                                     {options.sort.has_value(), "--sort"},
+                                                     {options.bold.has_value(), "--bold"},
+                                                     {options.icon, "--icon"},
+                                                     {!options.select.empty(), "--select"}};
+    for (auto const& [given, name] : showRows) {
+        if (given)
+            return std::string(name) + " says how rows are shown, and --watch shows none";
+    }
+    return {};
+}
+
 std::string CheckGeneration(Unchecked const& unchecked, Options& options) {
     options.newGeneration = unchecked.generation == "new";
     if (!options.newGeneration)
         return unchecked.generation == "old"
                    ? ""
                    : "--generation " + unchecked.generation + ": not old or new";
-    std::pair<bool, char const*> const needRows[] = {
-        {!options.lists.empty(), "--list"},         {options.limit.has_value(), "--limit"},
-        {options.columns.has_value(), "--columns"}, {options.sort.has_value(), "--sort"},
-        {options.name.has_value(), "--name"},       {options.bold.has_value(), "--bold"}};
+    std::pair<bool, char const*> const needRows[] = {{!options.lists.empty(), "--list"},
+                                                     {options.limit.has_value(), "--limit"},
+                                                     {options.columns.has_value(), "--columns"},
+                                                     {options.sort.has_value(), "--sort"},
+                                                     {options.name.has_value(), "--name"},
+                                                     {options.bold.has_value(), "--bold"},
+                                                     {options.watch, "--watch"},
+                                                     {!options.select.empty(), "--select"}};
     for (auto const& [given, name] : needRows) {
         if (given)
             return std::string(name) + " needs rows, and --generation new has none yet";
@@ -178,7 +251,8 @@ std::string CheckGeneration(Unchecked const& unchecked, Options& options) {
 }
 
 std::string Check(Unchecked const& unchecked, Options& options) {
-    for (auto* const check : {CheckFolders, CheckColumns, CheckOutput, CheckGeneration}) {
+    for (auto* const check :
+         {CheckFolders, CheckColumns, CheckWrites, CheckOutput, CheckWatch, CheckGeneration}) {
         if (auto mistake = check(unchecked, options); !mistake.empty())
             return mistake;
     }

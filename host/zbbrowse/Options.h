@@ -24,6 +24,13 @@ struct ColumnsOption {
     std::vector<std::string> names;
 };
 
+//! A value that is to be written to a column of all selected rows of a list.
+struct WriteOption {
+    std::string list;
+    std::string column;
+    std::string value;
+};
+
 struct SortOption {
     std::string column;
     bool ascending = true;
@@ -41,6 +48,9 @@ struct Options {
     bool icon = false;
     bool newGeneration = false;
     std::optional<std::size_t> limit;
+    bool watch = false;
+    std::vector<std::string> select; //!< Patterns for the names of rows.
+    std::vector<WriteOption> writes;
     Format format = Format::Text;
     std::string output; //!< Empty: standard output.
 };
@@ -61,5 +71,9 @@ std::optional<ColumnsOption> ReadColumnsOption(std::string const& text);
 //! Reads `COL[:asc|:desc]`. Only the last direction is one; what stands before it is the name.
 //! Nothing if the name is empty.
 std::optional<SortOption> ReadSortOption(std::string const& text);
+
+//! Reads `TABLE.COLUMN=VALUE`, with backslashes in the names as above; the value is what stands
+//! behind the first `=`, as it stands. Nothing if a part is missing or a name is empty.
+std::optional<WriteOption> ReadWriteOption(std::string const& text);
 
 } // namespace zbbrowse

@@ -51,6 +51,7 @@ TEST_F(OptionsTest, AFileAloneTakesTheDefaults) {
     EXPECT_FALSE(options->name);
     EXPECT_FALSE(options->bold);
     EXPECT_FALSE(options->icon);
+    EXPECT_FALSE(options->watch);
     EXPECT_FALSE(options->newGeneration);
 }
 
@@ -141,6 +142,64 @@ TEST_F(OptionsTest, ANewViewMayShowIcons) {
     EXPECT_TRUE(options->icon);
 }
 
+TEST_F(OptionsTest, WatchingGoesWithListsFoldersAndNames) {
+    auto const options =
+        Read({"a.db", "--watch", "--list", "x", "--folder", "f=y", "--name", "n", "--view", "v"});
+
+    EXPECT_TRUE(options->watch);
+    EXPECT_TRUE(Read({"a.db", "--watch", "--format", "jsonl"})->watch);
+}
+
+TEST_F(OptionsTest, WatchingRefusesWhatNeedsAnEnd) {
+    ExpectRefused({"a.db", "--watch", "--format", "json"}, "--format json");
+    ExpectRefused({"a.db", "--watch", "--format", "csv"}, "--format csv");
+    ExpectRefused({"a.db", "--watch", "--output", "x"}, "--output");
+}
+
+TEST_F(OptionsTest, WatchingRefusesWhatSaysHowRowsAreShown) {
+    ExpectRefused({"a.db", "--watch", "--limit", "1"}, "--limit");
+    ExpectRefused({"a.db", "--watch", "--columns", "x"}, "--columns");
+    ExpectRefused({"a.db", "--watch", "--sort", "x"}, "--sort");
+    ExpectRefused({"a.db", "--watch", "--bold", "x"}, "--bold");
+    ExpectRefused({"a.db", "--watch", "--icon"}, "--icon");
+    ExpectRefused({"a.db", "--watch", "--select", "x"}, "--select");
+}
+
+TEST_F(OptionsTest, ANewViewHasNothingToWatch) {
+    ExpectRefused({"a.db", "--watch", "--generation", "new"}, "--watch needs rows");
+}
+
+TEST_F(OptionsTest, PatternsGatherInTheirOrder) {
+    EXPECT_EQ(Read({"--select", "a*", "a.db", "--select", "b,c"})->select, (Names{"a*", "b,c"}));
+}
+
+TEST_F(OptionsTest, ANewViewHasNothingToSelect) {
+    ExpectRefused({"a.db", "--select", "x", "--generation", "new"}, "--select needs rows");
+}
+
+TEST_F(OptionsTest, WritesGatherInTheirOrder) {
+    auto const writes =
+        Read({"a.db", "--select", "x", "--write", "t.a=1=2.3", "--write", "odd\\.t\\=.a="})->writes;
+
+    ASSERT_EQ(writes.size(), 2U);
+    EXPECT_EQ(writes[0].list, "t");
+    EXPECT_EQ(writes[0].column, "a");
+    EXPECT_EQ(writes[0].value, "1=2.3");
+    EXPECT_EQ(writes[1].list, "odd.t=");
+    EXPECT_EQ(writes[1].column, "a");
+    EXPECT_EQ(writes[1].value, "");
+}
+
+TEST_F(OptionsTest, AWriteWithoutListColumnOrValueIsRefused) {
+    for (char const* const text : {"t.a", "a=1", ".a=1", "t.=1", "t.a.b=1", "=1", "t\\.a=1"})
+        ExpectRefused({"a.db", "--select", "x", "--write", text}, "TABLE.COLUMN=VALUE");
+}
+
+TEST_F(OptionsTest, AWriteNeedsASelection) {
+    ExpectRefused({"a.db", "--write", "t.a=1"}, "--write needs --select");
+    ExpectRefused({"a.db", "--watch", "--write", "t.a=1"}, "--write needs --select");
+}
+
 TEST_F(OptionsTest, AGenerationIsOldOrNew) {
     ExpectRefused({"a.db", "--generation", "newer"}, "--generation newer: not old or new");
 }
@@ -165,9 +224,10 @@ TEST_F(OptionsTest, HelpNamesEachOptionAndStops) {
     EXPECT_FALSE(Read({"--help"}));
     EXPECT_EQ(status_, 0);
     EXPECT_EQ(errors_, "");
-    for (char const* const name : {"FILE", "--list", "--folder", "--columns", "--sort", "--name",
-                                   "--icon", "--bold", "--generation", "--view", "--limit",
-                                   "--format", "--output", "--help", "--version", "json", "130"})
+    for (char const* const name :
+         {"FILE",     "--list",       "--folder", "--columns", "--sort",   "--name",   "--icon",
+          "--bold",   "--generation", "--view",   "--limit",   "--format", "--output", "--watch",
+          "--select", "--write",      "--help",   "--version", "json",     "130",      "143"})
         EXPECT_NE(output_.find(name), std::string::npos) << name;
 }
 

@@ -139,8 +139,8 @@ bool Child::ReadSome() {
     return true;
 }
 
-bool Child::WaitFor(std::string const& text) {
-    while (ending_.output.find(text) == std::string::npos) {
+bool Child::WaitFor(std::string const& text, std::string const& in) {
+    while (in.find(text) == std::string::npos) {
         if (!ReadSome())
             return false;
     }

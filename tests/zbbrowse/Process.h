@@ -39,7 +39,10 @@ public:
     Child& operator=(Child const&) = delete;
 
     //! Reads output until it holds `text`. False if the program ends before.
-    bool WaitFor(std::string const& text);
+    bool WaitFor(std::string const& text) { return WaitFor(text, ending_.output); }
+
+    //! The same for standard error. Requires: pipes.
+    bool WaitForError(std::string const& text) { return WaitFor(text, ending_.errors); }
 
     //! Lets nobody read the output any more.
     void CloseOutput();
@@ -53,6 +56,7 @@ private:
     [[noreturn]] void Become(Command const& command);
     void StartOnPipes(Command const& command);
     void StartOnTerminal(Command const& command, unsigned short columns);
+    bool WaitFor(std::string const& text, std::string const& in);
     bool ReadSome();
     void Read(int& descriptor, std::string& text);
 

@@ -128,6 +128,8 @@ void Database::State::Harden() const {
 
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0, nullptr);
     sqlite3_exec(handle, "PRAGMA cell_size_check = ON", nullptr, nullptr, nullptr);
+    if (options.canWrite)
+        sqlite3_exec(handle, "PRAGMA foreign_keys = ON", nullptr, nullptr, nullptr);
 }
 
 Database::Database(std::filesystem::path const& file, OpenOptions const& options)

@@ -5,6 +5,7 @@
 #include <zbBrowserView/sqlite/Source.h>
 
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace zbsqlite {
@@ -21,6 +22,27 @@ bool ReadWholeNumber(Value const& value, Number& out) {
         return false;
     out = static_cast<Number>(*integer);
     return true;
+}
+
+//! Refers to the variant's text. Nothing for a kind that means nothing here.
+std::optional<Value> ToValue(zbVariant const& variant) {
+    switch (variant.GetKind()) {
+    case zbVariant::None:
+        return Value();
+    case zbVariant::Boolean:
+        return Value::Integer(variant.GetBoolean() ? 1 : 0);
+    case zbVariant::Integer:
+        return Value::Integer(variant.GetInteger());
+    case zbVariant::Long64:
+        return Value::Integer(variant.GetLong64());
+    case zbVariant::Double:
+    case zbVariant::Double6:
+        return Value::Real(variant.GetDouble());
+    case zbVariant::String:
+        return Value::Text(variant.GetString());
+    default:
+        return std::nullopt;
+    }
 }
 
 std::string BlobToText(std::string_view bytes) {
@@ -133,8 +155,10 @@ bool Property::GetVariant(zbVariant& out) {
     return false;
 }
 
-bool Property::SetVariant(zbVariant /*value*/) {
-    return false;
+bool Property::SetVariant(zbVariant value) {
+    Row const* const row = source_->FindRow(source_->Control().GetCurrentDataItem());
+    auto const written = ToValue(value);
+    return row != nullptr && written && source_->Write(*row, *this, *written);
 }
 
 } // namespace zbsqlite

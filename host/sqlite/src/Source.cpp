@@ -72,14 +72,6 @@ Property* Source::FindDataProperty(char const* name) {
     return nullptr;
 }
 
-void Source::SetDataPropertyInteger(zbIBrowserDataItem* /*item*/,
-                                    zbIBrowserDataProperty* /*property*/, int /*value*/) {
-}
-
-void Source::SetDataPropertyBoolean(zbIBrowserDataItem* /*item*/,
-                                    zbIBrowserDataProperty* /*property*/, bool /*value*/) {
-}
-
 void Source::GetFilterGroups(std::vector<zbIBrowserDataSourceSimple*>& /*out*/) {
 }
 

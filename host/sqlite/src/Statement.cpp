@@ -27,6 +27,30 @@ Statement& Statement::Bind(int parameter, std::string_view text) {
     return *this;
 }
 
+Statement& Statement::Bind(int parameter, Value const& value) {
+    int code = SQLITE_OK;
+    switch (value.kind) {
+    case ValueKind::Null:
+        code = sqlite3_bind_null(statement_, parameter);
+        break;
+    case ValueKind::Integer:
+        code = sqlite3_bind_int64(statement_, parameter, value.integer);
+        break;
+    case ValueKind::Real:
+        code = sqlite3_bind_double(statement_, parameter, value.real);
+        break;
+    case ValueKind::Text:
+        return Bind(parameter, value.bytes);
+    case ValueKind::Blob:
+        code = sqlite3_bind_blob64(statement_, parameter, value.bytes.data(), value.bytes.size(),
+                                   SQLITE_STATIC);
+        break;
+    }
+    if (code != SQLITE_OK)
+        database_.ThrowLastError(place_);
+    return *this;
+}
+
 bool Statement::Step() {
     int const code = sqlite3_step(statement_);
     if (code == SQLITE_ROW)

@@ -26,6 +26,9 @@ public:
     //! Binds the 1-based parameter. The text is not copied and must outlive the statement.
     Statement& Bind(int parameter, std::string_view text);
 
+    //! The same for a value of any kind, whose bytes are not copied either.
+    Statement& Bind(int parameter, Value const& value);
+
     //! Goes to the next row; false after the last.
     bool Step();
 

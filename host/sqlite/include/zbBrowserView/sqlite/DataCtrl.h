@@ -53,7 +53,7 @@ public:
 
     void SetProgress(Progress progress) { progress_ = std::move(progress); }
 
-    //! Why the last load that failed did so, of whichever source; null if none has.
+    //! Why the last load or write that failed did so, of whichever source; null if none has.
     Error const* LastError() const { return error_ ? &*error_ : nullptr; }
 
     char const* GetName() const override { return name_.c_str(); }

@@ -26,7 +26,7 @@ struct OpenOptions {
     std::atomic<bool> const* stop = nullptr;
 
     //! Whether statements of the program's own may write the file. Files that are attached may not
-    //! be written in any case.
+    //! be written in any case. What is written must keep to declared foreign keys.
     bool canWrite = false;
 };
 

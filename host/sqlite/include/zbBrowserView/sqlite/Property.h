@@ -76,7 +76,15 @@ public:
     //! kind 4 if it does not fit; a real 5; a text 7, a blob 7 with its bytes as they stand.
     bool GetVariant(zbVariant& out) override;
 
-    //! Always false: the database is open for reading.
+    //! Writes the item that was given to `DataCtrl::SetCurrentDataItem` to the file, if that was
+    //! opened for writing; see Transaction.h for several at once. A kind without a value writes
+    //! null, a boolean 1 or 0, and the column makes of a number or text what it makes of each. The
+    //! row itself, and the views, follow at the next `Changes::Poll`.
+    //!
+    //! The row is found by its key as it was read, which is the primary key, or with `Changes` the
+    //! rowid; views have none.
+    //! Failure: false, and nothing is written; `DataCtrl::LastError` says why, unless the item is
+    //! none of this source, or the kind one that has no meaning here.
     bool SetVariant(zbVariant value) override;
 
 private:

@@ -103,7 +103,8 @@ public:
     //! ASCII case aside, as SQLite compares names.
     Property* FindDataProperty(char const* name) override;
 
-    //! Does nothing: the database is open for reading. So does its twin.
+    //! Writes to the file, as `Property::SetVariant` does; true is 1. Does nothing if that fails,
+    //! and for an item or a property of another source.
     void SetDataPropertyInteger(zbIBrowserDataItem* item, zbIBrowserDataProperty* property,
                                 int value) override;
     void SetDataPropertyBoolean(zbIBrowserDataItem* item, zbIBrowserDataProperty* property,
@@ -145,6 +146,7 @@ public:
 private:
     friend class Changes;
     friend class DataCtrl;
+    friend class Property;
     friend class Row;
     struct Difference;
     struct RowStore;
@@ -183,6 +185,9 @@ private:
     std::string LoadQuery() const;
     static void ReadValues(detail::Statement const& query, std::span<Value> values);
     std::size_t SizeOfRecord(std::span<Value const> values, std::size_t rowNumber) const;
+    bool Write(Row const& row, Property const& column, Value const& value);
+    void WriteOrThrow(Row const& row, Property const& column, Value const& value);
+    std::string WriteQuery(Property const& column, std::vector<std::size_t> const& keys) const;
     std::string Where() const;
     std::string Place() const;
     std::size_t RecordColumns() const;
