@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the data side reports and selects: the view follows.
 #include "ColumnHost.h"
+#include "Sizes.h"
 
 #include <zbBrowserView/zbIBrowserSelectionManager.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
@@ -10,20 +11,15 @@
 #include <algorithm>
 #include <random>
 
+using zbbench::changes;
 using zbbench::ColumnHost;
 using zbbench::Item;
 using zbbench::LightHost;
+using zbbench::Rows;
+using zbbench::Sizes;
 using zbbench::Source;
 
 namespace {
-
-void Sizes(benchmark::internal::Benchmark* bench) {
-    bench->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
-}
-
-std::size_t Rows(benchmark::State const& state) {
-    return static_cast<std::size_t>(state.range(0));
-}
 
 //! Some items drawn at random, each once.
 std::vector<Item*> Draw(Source& source, std::size_t count) {
@@ -78,8 +74,6 @@ void ItemThatNoFolderShows(benchmark::State& state) {
 BENCHMARK(ItemThatNoFolderShows)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMicrosecond);
 
 // Sorted lists
-
-constexpr std::size_t changes = 10'000;
 
 //! A sorted list, then what `prepare` answers is run and all rows are read once more.
 template <class Prepare>

@@ -2,6 +2,7 @@
 // Rows of one list in one folder.
 #include "CountingNew.h"
 #include "LightHost.h"
+#include "Sizes.h"
 
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 
@@ -9,19 +10,12 @@
 
 #include <random>
 
+using zbbench::changes;
 using zbbench::LightHost;
+using zbbench::Rows;
+using zbbench::Sizes;
 
 namespace {
-
-void Sizes(benchmark::internal::Benchmark* bench) {
-    bench->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
-}
-
-constexpr int changes = 10'000;
-
-std::size_t Rows(benchmark::State const& state) {
-    return static_cast<std::size_t>(state.range(0));
-}
 
 //! Time for each row, and how many of them there are.
 void ReportRows(benchmark::State& state, std::size_t rows) {

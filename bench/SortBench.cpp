@@ -3,24 +3,18 @@
 // `compared` says how often it was asked.
 #include "ColumnHost.h"
 #include "CountingNew.h"
+#include "Sizes.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cmath>
 
+using zbbench::changes;
 using zbbench::ColumnHost;
+using zbbench::Rows;
+using zbbench::Sizes;
 
 namespace {
-
-void Sizes(benchmark::internal::Benchmark* bench) {
-    bench->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
-}
-
-constexpr int changes = 10'000;
-
-std::size_t Rows(benchmark::State const& state) {
-    return static_cast<std::size_t>(state.range(0));
-}
 
 //! Comparisons of one iteration, and how many they are for each n log2 n.
 void ReportComparisons(benchmark::State& state, std::size_t comparisons) {
