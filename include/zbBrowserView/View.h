@@ -12,6 +12,8 @@
 //! | 6. Selection, view items and data items            | View_Selection.cpp           |
 //! | 7. What this generation does not offer             | View_NotOffered.cpp          |
 //! | 8. What is not built yet, answered neutrally       | View_Shell.cpp               |
+//!
+//! One class answers all 123 operations of zbIBrowserView, hence the length of this file.
 #pragma once
 
 #include <zbBrowserView/platform/zbExport.h>

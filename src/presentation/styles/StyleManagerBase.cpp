@@ -92,20 +92,24 @@ bool StyleManagerBase::SetCurrentStyle(zbIBrowserStyle* style) {
     return true;
 }
 
-bool StyleManagerBase::RefuseDefaultStyle() {
-    SetError("default column style cann't be deleted.");
-    return false;
+// What both ways to delete a style have in common.
+bool StyleManagerBase::BeginDeletion(zbIBrowserStyle const* listed) {
+    if (listed == nullptr)
+        return false;
+    if (listed == default_) {
+        SetError("default column style cann't be deleted.");
+        return false;
+    }
+    if (current_ == listed)
+        current_ = default_;
+    return true;
 }
 
 bool StyleManagerBase::DeleteStyle(zbIBrowserStyle* style) {
     auto* const listed = Listed(style);
-    if (listed == nullptr)
+    if (!BeginDeletion(listed))
         return false;
-    if (listed == default_)
-        return RefuseDefaultStyle();
     CallScope const scope(context_.Lifetime());
-    if (current_ == listed)
-        current_ = default_;
     RemoveFromFolders(listed);
     if (!listed->IsPending()) {
         if (context_.Ctrl() == nullptr)
@@ -118,13 +122,9 @@ bool StyleManagerBase::DeleteStyle(zbIBrowserStyle* style) {
 
 bool StyleManagerBase::DeleteByName(char const* name) {
     auto* const listed = name == nullptr ? nullptr : Named(name);
-    if (listed == nullptr)
+    if (!BeginDeletion(listed))
         return false;
-    if (listed == default_)
-        return RefuseDefaultStyle();
     CallScope const scope(context_.Lifetime());
-    if (current_ == listed)
-        current_ = default_;
     TakeOut(listed);
     if (!listed->IsPending())
         context_.Styles().TellDeleted(*listed);

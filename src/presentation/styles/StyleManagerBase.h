@@ -76,7 +76,8 @@ private:
 
     void CreateDefaultStyle();
     bool IsTaken(zbString const& name);
-    bool RefuseDefaultStyle();
+    //! False, and the same as before, if there is no style or it is the default one.
+    bool BeginDeletion(zbIBrowserStyle const* listed);
     zbBrowserStyle* Listed(zbIBrowserStyle const* style) const;
     zbBrowserStyle* Named(zbString const& name) const;
     void TakeOut(zbBrowserStyle* style);
