@@ -84,10 +84,14 @@ public:
         holes_ = 0;
     }
 
-    //! Gives the elements another order and closes the holes. Throws nothing.
-    //! Requires: `order` holds the same elements, which do not own what they point to.
-    void Reorder(std::vector<Pointer> const& order) {
-        slots_.assign(order.begin(), order.end());
+    //! Gives the elements another order and closes the holes: `elementAt(slot)` is called for each
+    //! slot in turn. Throws nothing if that does not.
+    //! Requires: these are the same `count` elements, which do not own what they point to.
+    template <class ElementAt>
+    void Reorder(std::size_t count, ElementAt elementAt) {
+        slots_.resize(count);
+        for (Slot slot = 0; slot < count; ++slot)
+            slots_[slot] = elementAt(slot);
         holes_ = 0;
     }
 

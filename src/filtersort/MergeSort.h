@@ -6,9 +6,7 @@
 #include "containers/Prefetch.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 namespace zbbrowser::detail {
@@ -117,35 +115,5 @@ private:
     Order& order_;
     std::vector<T> left_;
 };
-
-//! Where elements belong that join a list which is in order: for each of `fresh`, which is in order
-//! too, how many of the `count` old ones come before it. `at(i)` gives an old one; equal ones stay
-//! in front of a fresh one. The answers rise whatever `order` says.
-//!
-//! Binary merging (Hwang and Lin; Knuth, The Art of Computer Programming, volume 3, 5.3.2): steps
-//! of about the distance at which the fresh ones lie, then a binary search in the step. Asks about
-//! f log2 (n / f) + 2 f times.
-template <class T, class At, class Order>
-std::vector<std::size_t> PlacesAmong(std::size_t count, At at, std::vector<T> const& fresh,
-                                     Order& order) {
-    std::vector<std::size_t> places;
-    places.reserve(fresh.size());
-    std::size_t low = 0;
-    for (auto const& element : fresh) {
-        auto const left = fresh.size() - places.size();
-        auto const step = std::bit_floor(std::max<std::size_t>((count - low) / left, 1));
-        while (low + step <= count && !order(element, at(low + step - 1)))
-            low += step;
-        for (auto high = std::min(low + step - 1, count); low < high;) {
-            auto const probe = low + (high - low) / 2;
-            if (order(element, at(probe)))
-                high = probe;
-            else
-                low = probe + 1;
-        }
-        places.push_back(low);
-    }
-    return places;
-}
 
 } // namespace zbbrowser::detail

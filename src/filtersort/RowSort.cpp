@@ -4,6 +4,7 @@
 #include "containers/Prefetch.h"
 #include "filtersort/CurrentSortProperty.h"
 #include "filtersort/MergeSort.h"
+#include "filtersort/PlacesAmong.h"
 #include "filtersort/SortHandlerBase.h"
 #include "view/ViewContext.h"
 
@@ -12,6 +13,8 @@
 #include <zbBrowserView/host/zbIBrowserDataSourceSimple.h>
 #include <zbBrowserView/zbIBrowserViewItem.h>
 #include <zbBrowserView/zbIBrowserViewProperty.h>
+
+#include <algorithm>
 
 namespace zbbrowser::detail {
 
@@ -123,51 +126,77 @@ bool RowSort::IsPropertyCurrent() const {
 }
 
 bool RowSort::Run(Items& items, std::size_t sorted, RowOrder order) {
-    auto result = SortedBy(order, items, sorted);
+    auto const joining = JoiningBy(order, items, sorted);
     if (IsDisturbed() || !IsPropertyCurrent())
         return false;
-    items = std::move(result);
+    Join(items, sorted, joining);
     return true;
 }
 
-RowSort::Items RowSort::SortedBy(RowOrder order, Items const& items, std::size_t sorted) {
+RowSort::Joining RowSort::JoiningBy(RowOrder order, Items const& items, std::size_t sorted) {
     switch (order) {
     case RowOrder::Default:
-        return Sorted(items, sorted, DefaultOrder{*this});
+        return JoiningOf(items, sorted, DefaultOrder{*this});
     case RowOrder::Custom:
-        return Sorted(items, sorted, CustomOrder{*this});
+        return JoiningOf(items, sorted, CustomOrder{*this});
     case RowOrder::Column:
-        return Sorted(items, sorted, ColumnOrder{*this});
+        return JoiningOf(items, sorted, ColumnOrder{*this});
     case RowOrder::CustomTwoKeys:
-        return Sorted(items, sorted, CustomTwoKeysOrder{*this});
+        return JoiningOf(items, sorted, CustomTwoKeysOrder{*this});
     case RowOrder::NameAndId:
-        return Sorted(items, sorted, NameAndIdOrder{*this});
+        return JoiningOf(items, sorted, NameAndIdOrder{*this});
     case RowOrder::Prepared:
-        return Sorted(items, sorted, PreparedOrder{*this});
+        return JoiningOf(items, sorted, PreparedOrder{*this});
     }
-    return items;
+    return {};
 }
 
-// The unsorted rows are sorted by themselves and then find their places among the sorted ones, of
-// which only those are looked at that are compared.
+//! The rows that stand in order, looked at only when they are compared.
+class RowSort::OldRows {
+public:
+    OldRows(RowSort& sort, Items const& items, std::size_t count)
+        : sort_(sort)
+        , items_(items)
+        , count_(count) {}
+
+    std::size_t Count() const { return count_; }
+    Row At(std::size_t i) const { return sort_.RowOf(items_[i], i); }
+    void PrefetchItem(std::size_t i) const { Prefetch(items_[i]); }
+    void PrefetchData(std::size_t i) const {
+        if (items_[i] != nullptr)
+            Prefetch(items_[i]->GetDataItemSimple());
+    }
+
+private:
+    RowSort& sort_;
+    Items const& items_;
+    std::size_t const count_;
+};
+
+// The unsorted rows are sorted by themselves and then find their places among the sorted ones.
 template <class Order>
-RowSort::Items RowSort::Sorted(Items const& items, std::size_t sorted, Order order) {
+RowSort::Joining RowSort::JoiningOf(Items const& items, std::size_t sorted, Order order) {
     auto rows = RowsFrom(items, sorted);
     MergeSort<Row, Order>(rows, order).Run();
-    auto const placeOf = [&](std::size_t i) { return RowOf(items[i], i); };
-    auto const places = sorted == 0 ? std::vector<std::size_t>(rows.size())
-                                    : PlacesAmong(sorted, placeOf, rows, order);
-    Items result;
-    result.reserve(items.size());
-    auto old = items.begin();
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        auto const next = items.begin() + static_cast<std::ptrdiff_t>(places[i]);
-        result.insert(result.end(), old, next);
-        result.push_back(items[rows[i].place]);
-        old = next;
+    Joining joining;
+    joining.items.resize(rows.size());
+    std::transform(rows.begin(), rows.end(), joining.items.begin(),
+                   [&](Row const& row) { return items[row.place]; });
+    if (sorted > 0)
+        joining.places = PlacesAmong(OldRows(*this, items, sorted), rows, order).Find();
+    return joining;
+}
+
+// From the end, so that no sorted row has to give way twice.
+void RowSort::Join(Items& items, std::size_t sorted, Joining const& joining) {
+    auto end = items.begin() + static_cast<std::ptrdiff_t>(sorted);
+    auto to = items.end();
+    for (auto i = joining.items.size(); i-- > 0;) {
+        auto const place = sorted == 0 ? 0 : static_cast<std::ptrdiff_t>(joining.places[i]);
+        to = std::move_backward(items.begin() + place, end, to);
+        *--to = joining.items[i];
+        end = items.begin() + place;
     }
-    result.insert(result.end(), old, items.begin() + static_cast<std::ptrdiff_t>(sorted));
-    return result;
 }
 
 std::vector<Row> RowSort::RowsFrom(Items const& items, std::size_t first) {

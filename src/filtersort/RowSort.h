@@ -78,9 +78,18 @@ public:
 private:
     static constexpr std::uint32_t rememberedSources = 64;
 
-    Items SortedBy(RowOrder order, Items const& items, std::size_t sorted);
+    class OldRows;
+    //! The unsorted items, sorted, and for each how many of the sorted ones come before it; no
+    //! places if none is sorted.
+    struct Joining {
+        Items items;
+        std::vector<std::size_t> places;
+    };
+
+    Joining JoiningBy(RowOrder order, Items const& items, std::size_t sorted);
     template <class Order>
-    Items Sorted(Items const& items, std::size_t sorted, Order order);
+    Joining JoiningOf(Items const& items, std::size_t sorted, Order order);
+    static void Join(Items& items, std::size_t sorted, Joining const& joining);
     Row RowOf(zbIBrowserViewItem const* item, std::size_t place);
     std::vector<Row> RowsFrom(Items const& items, std::size_t first);
     std::uint32_t NumberOf(zbIBrowserDataSourceSimple* source);

@@ -90,14 +90,8 @@ void LeafStore::MarkAllGone() {
 }
 
 void LeafStore::AppendAllTo(std::vector<zbIBrowserViewItem*>& out) const {
-    auto const& slots = slots_.Slots();
-    if (!slots_.HasHoles()) {
-        out.insert(out.end(), slots.begin(), slots.end());
-        return;
-    }
     out.reserve(out.size() + Count());
-    std::copy_if(slots.begin(), slots.end(), std::back_inserter(out),
-                 [](Leaf const* leaf) { return leaf != nullptr; });
+    AppendSlots(0, static_cast<Slot>(slots_.Slots().size()), out);
 }
 
 void LeafStore::AppendVisibleTo(std::vector<zbIBrowserViewItem*>& out, bool ascending) const {
@@ -241,25 +235,31 @@ void LeafStore::RebuildRuns() {
 }
 
 // No leaf is looked at: in the order of a sort they lie all over the memory.
-std::size_t LeafStore::AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out) const {
+std::size_t LeafStore::AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out) {
+    SortUnique(loose_);
+    out.reserve(out.size() + Count());
     auto const before = out.size();
-    out.reserve(before + Count());
-    std::vector<bool> isLoose(loose_.empty() ? 0 : orderedEnd_);
-    for (auto const slot : loose_)
-        isLoose[slot] = true;
-    std::vector<Leaf*> others;
-    for (Slot slot = 0; slot < orderedEnd_; ++slot) {
-        if (auto* const leaf = slots_[slot]; leaf != nullptr && !isLoose.empty() && isLoose[slot])
-            others.push_back(leaf);
-        else if (leaf != nullptr)
-            out.push_back(leaf);
+    Slot from = 0;
+    for (auto const slot : loose_) {
+        AppendSlots(from, slot, out);
+        from = slot + 1;
     }
+    AppendSlots(from, orderedEnd_, out);
     auto const ordered = out.size() - before;
-    out.insert(out.end(), others.begin(), others.end());
-    std::copy_if(slots_.Slots().begin() + static_cast<std::ptrdiff_t>(orderedEnd_),
-                 slots_.Slots().end(), std::back_inserter(out),
-                 [](Leaf const* leaf) { return leaf != nullptr; });
+    for (auto const slot : loose_)
+        AppendSlots(slot, slot + 1, out);
+    AppendSlots(orderedEnd_, static_cast<Slot>(slots_.Slots().size()), out);
     return ordered;
+}
+
+void LeafStore::AppendSlots(Slot from, Slot to, std::vector<zbIBrowserViewItem*>& out) const {
+    auto const first = slots_.Slots().begin() + static_cast<std::ptrdiff_t>(from);
+    auto const last = slots_.Slots().begin() + static_cast<std::ptrdiff_t>(to);
+    if (slots_.HasHoles())
+        std::copy_if(first, last, std::back_inserter(out),
+                     [](Leaf const* leaf) { return leaf != nullptr; });
+    else
+        out.insert(out.end(), first, last);
 }
 
 void LeafStore::ForgetOrder() {
@@ -280,23 +280,19 @@ void LeafStore::ForgetOrder(Leaf const& leaf) {
 // Leaves lie all over the memory in any order but that of their creation, so they are fetched some
 // ahead.
 void LeafStore::Reorder(std::vector<zbIBrowserViewItem*> const& order) {
-    std::vector<Leaf*> leaves;
-    leaves.reserve(order.size());
     std::vector<Slot> newSlot(slots_.Slots().size());
     auto sources = SourcesInOrder(order);
-    for (auto* const item : order) {
-        auto const slot = static_cast<Slot>(leaves.size());
+    slots_.Reorder(order.size(), [&](Slot slot) {
         if (slot + prefetchDistance < order.size())
             Prefetch(order[slot + prefetchDistance]);
-        auto* const leaf = static_cast<Leaf*>(item);
+        auto* const leaf = static_cast<Leaf*>(order[slot]);
         newSlot[leaf->slot_] = slot;
         leaf->slot_ = slot;
-        leaves.push_back(leaf);
-    }
-    slots_.Reorder(leaves);
+        return leaf;
+    });
     index_.Renumber(newSlot);
     sources_ = std::move(sources);
-    orderedEnd_ = static_cast<Slot>(leaves.size());
+    orderedEnd_ = static_cast<Slot>(order.size());
     loose_.clear();
     ++changes_;
 }

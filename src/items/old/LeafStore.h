@@ -80,7 +80,7 @@ public:
     //! All are as Reorder left them, or there are none.
     bool IsOrdered() const { return orderedEnd_ == slots_.Slots().size() && loose_.empty(); }
     //! Those that are as Reorder left them, then the others. Answers how many the former are.
-    std::size_t AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out) const;
+    std::size_t AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out);
     //! Puts the leaves into this order. O(leaves).
     //! Requires: `order` holds the leaves of this store and nothing else.
     //! Failure: std::bad_alloc; the store is as before.
@@ -119,6 +119,7 @@ private:
 
     std::uint32_t NumberOf(zbIBrowserDataSource const* source);
     void SortUnique(std::vector<Slot>& slots) const;
+    void AppendSlots(Slot from, Slot to, std::vector<zbIBrowserViewItem*>& out) const;
     void Clear();
     void Compact();
     void RebuildRuns();
