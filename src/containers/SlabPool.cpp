@@ -6,16 +6,23 @@
 #include <cstdint>
 #include <functional>
 #include <new>
+#include <type_traits>
+#include <utility>
 
 namespace zbbrowser::detail {
 
 namespace {
 
 constexpr std::size_t slabAlignment = 65536;
-// A little less, for the allocator's own notes: otherwise it would leave a gap as large as a slab
-// between two of them.
-constexpr std::size_t slabSize = slabAlignment - 128;
+// What the last slab of a chunk leaves to the allocator's own notes: otherwise it would leave a gap
+// as large as a slab between two chunks.
+constexpr std::size_t leftFree = 128;
+constexpr std::size_t mostSlabsAtOnce = 16;
 constexpr std::size_t smallestBlock = 32;
+
+std::uintptr_t AsNumber(void const* address) {
+    return reinterpret_cast<std::uintptr_t>(address);
+}
 
 } // namespace
 
@@ -25,19 +32,17 @@ struct SlabPool::Slab {
 
     //! The slab that holds a block.
     static Slab* Of(void* block) {
-        auto const address = reinterpret_cast<std::uintptr_t>(block);
-        return reinterpret_cast<Slab*>(address - address % slabAlignment);
+        return reinterpret_cast<Slab*>(AsNumber(block) - AsNumber(block) % slabAlignment);
     }
 };
 
-void SlabPool::SlabDeleter::operator()(Slab* slab) const {
-    std::destroy_at(slab);
-    ::operator delete(slab, std::align_val_t(slabAlignment));
+void SlabPool::ChunkDeleter::operator()(std::byte* memory) const {
+    ::operator delete(memory, std::align_val_t(slabAlignment));
 }
 
 SlabPool::SlabPool(std::size_t blockSize)
     : blockSize_(std::max(blockSize, smallestBlock))
-    , blocksPerSlab_((slabSize - sizeof(Slab)) / blockSize_) {
+    , blocksPerSlab_((slabAlignment - leftFree - sizeof(Slab)) / blockSize_) {
 }
 
 SlabPool::~SlabPool() = default;
@@ -51,7 +56,7 @@ void* SlabPool::Allocate() {
         return block;
     }
     if (current_ == nullptr || usedOfCurrent_ == blocksPerSlab_)
-        AddSlab();
+        BeginSlab();
     current_->handedOut.set(usedOfCurrent_);
     return BlockAt(*current_, usedOfCurrent_++);
 }
@@ -62,28 +67,49 @@ void SlabPool::Free(void* block) {
     free_ = new (block) FreeBlock{free_};
 }
 
-// std::less orders unrelated pointers, which the built-in comparison need not.
 bool SlabPool::Owns(void const* address) const {
-    std::less<void const*> const before;
-    auto const next =
-        std::upper_bound(slabs_.begin(), slabs_.end(), address,
-                         [&](void const* a, auto const& slab) { return before(a, slab.get()); });
-    if (next == slabs_.begin())
+    auto const chunks = ChunksUpTo(address);
+    if (chunks == 0)
         return false;
-    Slab& slab = **std::prev(next);
+    auto const& chunk = chunks_[chunks - 1];
+    auto const slabs = (AsNumber(address) - AsNumber(chunk.memory.get())) / slabAlignment;
+    if (slabs >= chunk.begun)
+        return false;
+    auto& slab = *reinterpret_cast<Slab*>(chunk.memory.get() + slabs * slabAlignment);
     auto const index = IndexOf(slab, address);
     return index < blocksPerSlab_ && BlockAt(slab, index) == address && slab.handedOut.test(index);
 }
 
-void SlabPool::AddSlab() {
-    void* const memory = ::operator new(slabSize, std::align_val_t(slabAlignment));
-    std::unique_ptr<Slab, SlabDeleter> slab(new (memory) Slab);
-    std::less<void const*> const before;
-    auto const place =
-        std::upper_bound(slabs_.begin(), slabs_.end(), slab.get(),
-                         [&](Slab const* a, auto const& other) { return before(a, other.get()); });
-    current_ = slabs_.insert(place, std::move(slab))->get();
+void SlabPool::BeginSlab() {
+    static_assert(std::is_trivially_destructible_v<Slab>, "slabs go without being destroyed");
+    if (chunks_.empty() || chunks_[newest_].begun == chunks_[newest_].slabs)
+        AddChunk();
+    auto& chunk = chunks_[newest_];
+    current_ = new (chunk.memory.get() + chunk.begun * slabAlignment) Slab;
+    ++chunk.begun;
     usedOfCurrent_ = 0;
+}
+
+// A quarter more, so that little is left over.
+void SlabPool::AddChunk() {
+    auto const slabs = std::clamp(slabCount_ / 4, std::size_t{1}, mostSlabsAtOnce);
+    auto const bytes = slabs * slabAlignment - leftFree;
+    Chunk chunk{{}, slabs, 0};
+    chunk.memory.reset(
+        static_cast<std::byte*>(::operator new(bytes, std::align_val_t(slabAlignment))));
+    auto const place = ChunksUpTo(chunk.memory.get());
+    chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place), std::move(chunk));
+    newest_ = place;
+    slabCount_ += slabs;
+}
+
+// std::less orders unrelated pointers, which the built-in comparison need not.
+std::size_t SlabPool::ChunksUpTo(void const* address) const {
+    std::less<void const*> const before;
+    auto const behind = std::upper_bound(
+        chunks_.begin(), chunks_.end(), address,
+        [&](void const* a, Chunk const& chunk) { return before(a, chunk.memory.get()); });
+    return static_cast<std::size_t>(behind - chunks_.begin());
 }
 
 std::byte* SlabPool::BlockAt(Slab& slab, std::size_t index) const {
@@ -91,8 +117,7 @@ std::byte* SlabPool::BlockAt(Slab& slab, std::size_t index) const {
 }
 
 std::size_t SlabPool::IndexOf(Slab const& slab, void const* address) const {
-    auto const first = reinterpret_cast<std::uintptr_t>(&slab + 1);
-    return (reinterpret_cast<std::uintptr_t>(address) - first) / blockSize_;
+    return (AsNumber(address) - AsNumber(&slab + 1)) / blockSize_;
 }
 
 } // namespace zbbrowser::detail

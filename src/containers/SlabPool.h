@@ -14,7 +14,8 @@ namespace zbbrowser::detail {
 //! host hands in can be recognised as an item of this view without being followed.
 //!
 //! Blocks come from slabs that are aligned to their size, so that the slab of a block is found in
-//! its address. Memory goes back to the system with the pool.
+//! its address. Slabs come in chunks, the more at once the more there are. Memory goes back to the
+//! system with the pool.
 class SlabPool {
 public:
     //! \param blockSize bytes of a block, a multiple of the alignment of a pointer
@@ -34,8 +35,14 @@ public:
 
 private:
     struct Slab;
-    struct SlabDeleter {
-        void operator()(Slab* slab) const;
+    struct ChunkDeleter {
+        void operator()(std::byte* memory) const;
+    };
+    //! Slabs one after the other, of which the first `begun` are in use.
+    struct Chunk {
+        std::unique_ptr<std::byte, ChunkDeleter> memory;
+        std::size_t slabs;
+        std::size_t begun;
     };
     struct FreeBlock {
         FreeBlock* next;
@@ -44,12 +51,17 @@ private:
     std::byte* BlockAt(Slab& slab, std::size_t index) const;
     //! The index of the block that starts there; any number if none does.
     std::size_t IndexOf(Slab const& slab, void const* address) const;
-    void AddSlab();
+    void BeginSlab();
+    void AddChunk();
+    //! The number of chunks that begin at the address or before it.
+    std::size_t ChunksUpTo(void const* address) const;
 
     std::size_t const blockSize_;
     std::size_t const blocksPerSlab_;
-    std::vector<std::unique_ptr<Slab, SlabDeleter>> slabs_; // In the order of their addresses
-    Slab* current_ = nullptr;                               // The newest one, filled from its start
+    std::vector<Chunk> chunks_; // In the order of their addresses
+    std::size_t newest_ = 0;    // Of chunks_
+    std::size_t slabCount_ = 0;
+    Slab* current_ = nullptr; // Filled from its start; the last one that was begun
     std::size_t usedOfCurrent_ = 0;
     FreeBlock* free_ = nullptr;
 };
