@@ -8,8 +8,8 @@
 
 namespace zbbench {
 
-ColumnHost::ColumnHost(std::size_t count)
-    : LightHost(count)
+ColumnView::ColumnView(Source& shown)
+    : LightView(shown)
     , name(*view.GetDefaultColumn())
     , number(AddColumn("number", ZBBROWSER_DATA_TYPE_INTEGER, source.number)) {
     AddColumn("text", ZBBROWSER_DATA_TYPE_STRING, source.name);
@@ -17,10 +17,9 @@ ColumnHost::ColumnHost(std::size_t count)
     ConnectDefault(zbBrowserView::DEFAULT_NAME_PROP, source.name);
     ConnectDefault(zbBrowserView::DEFAULT_BOLD_TEXT_PROP, source.flag);
     ConnectDefault(zbBrowserView::DEFAULT_ITALIC_TEXT_PROP, source.flag);
-    Connect();
 }
 
-zbIBrowserViewColumn& ColumnHost::AddColumn(char const* title, ZBBROWSER_DATA_TYPE type,
+zbIBrowserViewColumn& ColumnView::AddColumn(char const* title, ZBBROWSER_DATA_TYPE type,
                                             zbIBrowserDataProperty& property) {
     view.CreateViewProperty(title);
     view.UpdateViewPropertyType(title, type);
@@ -33,17 +32,17 @@ zbIBrowserViewColumn& ColumnHost::AddColumn(char const* title, ZBBROWSER_DATA_TY
     return *column;
 }
 
-void ColumnHost::ConnectDefault(char const* viewProperty, zbIBrowserDataProperty& property) {
+void ColumnView::ConnectDefault(char const* viewProperty, zbIBrowserDataProperty& property) {
     view.CreateVPConnect(view.FindViewProperty(viewProperty), &source, &property);
 }
 
-void ColumnHost::Sort(zbIBrowserViewColumn& column) {
+void ColumnView::Sort(zbIBrowserViewColumn& column) {
     column.SetUnsorted(true);
     view.SetAscendingOrder(&column, true);
     Read();
 }
 
-void ColumnHost::Read() {
+void ColumnView::Read() {
     view.GetChildren(rows, view.GetRootFreeFolder());
 }
 

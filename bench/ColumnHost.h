@@ -9,10 +9,10 @@
 
 namespace zbbench {
 
-//! Shows its list in four columns: the default one with icon and name, one of numbers, one of texts
-//! and one more of numbers. Every second row is bold and italic.
-struct ColumnHost : LightHost {
-    explicit ColumnHost(std::size_t count);
+//! Shows its source in four columns: the default one with icon and name, one of numbers, one of
+//! texts and one more of numbers. Every second row is bold and italic.
+struct ColumnView : LightView {
+    explicit ColumnView(Source& shown);
 
     //! Sorts by a column as if for the first time, and reads all rows.
     void Sort(zbIBrowserViewColumn& column);
@@ -27,6 +27,14 @@ private:
     zbIBrowserViewColumn& AddColumn(char const* title, ZBBROWSER_DATA_TYPE type,
                                     zbIBrowserDataProperty& property);
     void ConnectDefault(char const* viewProperty, zbIBrowserDataProperty& property);
+};
+
+//! With a source of its own, and its list made.
+struct ColumnHost : HostOf<ColumnView> {
+    explicit ColumnHost(std::size_t count)
+        : HostOf(count) {
+        Connect();
+    }
 };
 
 } // namespace zbbench

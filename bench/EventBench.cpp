@@ -8,11 +8,9 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <random>
-
 using zbbench::changes;
 using zbbench::ColumnHost;
+using zbbench::Draw;
 using zbbench::Item;
 using zbbench::LightHost;
 using zbbench::Rows;
@@ -20,17 +18,6 @@ using zbbench::Sizes;
 using zbbench::Source;
 
 namespace {
-
-//! Some items drawn at random, each once.
-std::vector<Item*> Draw(Source& source, std::size_t count) {
-    std::vector<Item*> items;
-    items.reserve(source.Items().size());
-    for (auto& item : source.Items())
-        items.push_back(&item);
-    std::shuffle(items.begin(), items.end(), std::mt19937_64(5));
-    items.resize(std::min(count, items.size()));
-    return items;
-}
 
 // Many folders
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <random>
 #include <string_view>
 
 namespace zbbench {
@@ -10,7 +11,7 @@ namespace zbbench {
 namespace {
 
 //! Spreads the identities over all numbers (the finaliser of splitmix64).
-std::uint64_t Draw(std::uint64_t id) {
+std::uint64_t Mix(std::uint64_t id) {
     id = (id ^ (id >> 30U)) * 0xbf58476d1ce4e5b9U;
     id = (id ^ (id >> 27U)) * 0x94d049bb133111ebU;
     return id ^ (id >> 31U);
@@ -44,18 +45,23 @@ int Order(T a, T b) {
 
 Item::Item(Source& source, std::uint32_t id, std::uint32_t names)
     : source_(source)
-    , number_(static_cast<int>(Draw(std::uint64_t{id} + 1) % names))
+    , number_(static_cast<int>(Mix(std::uint64_t{id} + 1) % names))
     , id_(id) {
     Rename(id, names);
 }
 
 void Item::Rename(std::uint64_t lot, std::uint32_t names) {
-    auto const drawn = Draw(~lot);
+    auto const drawn = Mix(~lot);
     auto const& word = words[drawn % words.size()];
     name_.fill('\0');
     auto* end = std::copy(word.begin(), word.end(), name_.data());
     *end++ = ' ';
     std::to_chars(end, name_.end() - 1, (drawn >> 8U) % (names / 7 + 1));
+}
+
+std::array<std::uint64_t, 2> Item::GetNameKey() const {
+    auto const rest = name_.size() - sizeof(std::uint64_t);
+    return {LowerCase(name_.data()), LowerCase(&name_[rest])};
 }
 
 int Item::CompareName(Item const& other) const {
@@ -97,6 +103,16 @@ Item* Source::AddItem() {
     return &items_.emplace_back(*this, static_cast<std::uint32_t>(items_.size()), names_);
 }
 
+std::vector<Item*> Draw(Source& source, std::size_t count) {
+    std::vector<Item*> items;
+    items.reserve(source.Items().size());
+    for (auto& item : source.Items())
+        items.push_back(&item);
+    std::shuffle(items.begin(), items.end(), std::mt19937_64(5));
+    items.resize(std::min(count, items.size()));
+    return items;
+}
+
 bool Source::GetDataItems(std::vector<zbIBrowserDataItemSimple*>& out) {
     out.reserve(items_.size());
     for (auto& item : items_) {
@@ -130,8 +146,8 @@ zbBrowserView& Manager::NewView(zbBrowserViewCtrl& controller) {
     return *controller.OLD_FindView("view");
 }
 
-LightHost::LightHost(std::size_t count)
-    : source(count)
+LightView::LightView(Source& shown)
+    : source(shown)
     , dataCtrl(source)
     , controller(CreateBrowserViewCtrl(&manager))
     , view(manager.NewView(*controller)) {

@@ -31,6 +31,8 @@ public:
     Item(Source& source, std::uint32_t id, std::uint32_t names);
     zbIBrowserDataSourceSimple* GetDataSource() const override;
     char const* GetName() const { return name_.data(); }
+    //! Lower case, in two numbers that order as the names do regardless of case.
+    std::array<std::uint64_t, 2> GetNameKey() const;
     //! Regardless of case.
     int CompareName(Item const& other) const;
     int GetNumber() const { return number_; }
@@ -103,6 +105,9 @@ private:
     std::uint32_t const names_;
 };
 
+//! Some items of a source drawn at random, each once; all of them if there are no more than that.
+std::vector<Item*> Draw(Source& source, std::size_t count);
+
 class DataCtrl final : public zbNeutralDataCtrl {
 public:
     explicit DataCtrl(Source& source)
@@ -119,18 +124,31 @@ public:
     zbBrowserView& NewView(zbBrowserViewCtrl& controller);
 };
 
-//! A view whose data control offers one source of `count` items; no list has been made yet.
-struct LightHost {
-    explicit LightHost(std::size_t count);
+//! A view whose data control offers one source; no list has been made yet.
+struct LightView {
+    explicit LightView(Source& shown);
 
     void Connect() { view.CreateList(view.GetRootFreeFolder(), &source, false); }
     void Disconnect() { view.DeleteList(view.GetRootFreeFolder(), &source); }
 
-    Source source;
+    Source& source;
     DataCtrl dataCtrl;
     Manager manager;
     std::unique_ptr<zbBrowserViewCtrl> controller;
     zbBrowserView& view;
 };
+
+struct OwnSource {
+    Source ownSource;
+};
+
+//! A view with a source of `count` items of its own.
+template <class View>
+struct HostOf : private OwnSource, View {
+    explicit HostOf(std::size_t count)
+        : OwnSource{Source(count)}
+        , View(ownSource) {}
+};
+using LightHost = HostOf<LightView>;
 
 } // namespace zbbench

@@ -6,6 +6,7 @@ option(ZBBROWSERVIEW_BUILD_SQLITE "Build the reference data side on SQLite"
 option(ZBBROWSERVIEW_BUILD_TOOLS "Build zbbrowse, the reference host" ${PROJECT_IS_TOP_LEVEL})
 option(ZBBROWSERVIEW_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(ZBBROWSERVIEW_BUILD_BENCH "Build the benchmarks" OFF)
+option(ZBBROWSERVIEW_BUILD_COMPARE "Build the comparison with Qt and GTK" OFF)
 option(ZBBROWSERVIEW_INSTALL "Generate install rules" ${PROJECT_IS_TOP_LEVEL})
 option(ZBBROWSERVIEW_WERROR "Developers: turn on many warnings and make each an error" OFF)
 set(ZBBROWSERVIEW_SANITIZE

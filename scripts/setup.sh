@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034,SC2154
 #
-# What ./run, ./test and .ci/run share: see that the packages are there, and build.
+# What ./run, ./test, bench/compare and .ci/run share: see that the packages are there, and build.
 # To be sourced, after `root` (the repository) and `program` (how the user called it) are set.
 # Everything is said on stderr: stdout belongs to the program that is run in the end.
 
@@ -13,6 +13,8 @@ setup_libraries_test=(libgtest-dev libgmock-dev)
 setup_tools_ci=(clang++:clang clang-tidy:clang-tidy clang-format:clang-format
     readelf:binutils nm:binutils)
 setup_libraries_ci=(libbenchmark-dev)
+setup_tools_compare=(g++:g++ python3:python3)
+setup_libraries_compare=(qt6-base-dev libgtk-4-dev python3-matplotlib)
 
 setup_fail() {
     printf '%s: %s\n' "$program" "$*" >&2
