@@ -64,6 +64,18 @@ TEST_F(SlabPoolTest, BlocksAreDistinctAlignedAndDoNotOverlap) {
     EXPECT_EQ(std::set<unsigned char*>(blocks.begin(), blocks.end()).size(), manyBlocks);
 }
 
+TEST_F(SlabPoolTest, WhatABigPoolHasNotHandedOutYetIsNotOwned) {
+    std::set<char const*> blocks;
+    char const* last = nullptr;
+    for (std::size_t i = 0; i < 100'000; ++i)
+        blocks.insert(last = static_cast<char const*>(pool.Allocate()));
+
+    for (std::size_t i = 0; i < 40'000; ++i) {
+        auto const* const behind = last + i * blockSize;
+        ASSERT_EQ(pool.Owns(behind), blocks.contains(behind)) << i;
+    }
+}
+
 TEST_F(SlabPoolTest, AnotherPoolsBlockIsNotOwned) {
     SlabPool other(blockSize);
     pool.Allocate();
