@@ -40,6 +40,15 @@ public:
         return none;
     }
 
+    //! The slot that Find will most likely ask about first; none if there is none.
+    Slot Guess(void const* key) const {
+        if (entries_.empty())
+            return none;
+        auto const hash = Hash(key);
+        auto const& entry = entries_[Home(hash)];
+        return entry.hash == hash ? entry.slot : none;
+    }
+
     //! Adds an entry unless there is a slot for which `isKey(slot)` holds among those that share
     //! the hash. Requires: room for one more, see Reserve.
     template <class IsKey>

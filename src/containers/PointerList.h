@@ -6,6 +6,7 @@
 #include "containers/PointerIndex.h"
 #include "containers/SlotVector.h"
 
+#include <new>
 #include <vector>
 
 namespace zbbrowser::detail {
@@ -27,19 +28,27 @@ public:
         return slot == PointerIndex::none ? nullptr : slots_[slot];
     }
 
-    //! Null: refused. False if it is there already.
+    //! The last object; null if there is none.
+    T* Last() { return slots_.Last(); }
+
+    //! Makes room for `count` further objects, so that adding them takes no memory.
+    void Reserve(std::size_t count) {
+        slots_.Reserve(count);
+        index_.Reserve(count);
+    }
+
+    //! Null: refused. False if it is there already. Failure: std::bad_alloc; the list is as before.
     bool Add(T* object) {
         if (object == nullptr || Contains(object))
             return false;
-        slots_.Reserve(1);
-        index_.Reserve(1);
+        Reserve(1);
         auto const slot = slots_.Append(object);
         index_.InsertIfAbsent(object, slot, [](Slot) { return false; });
         return true;
     }
 
     //! False if it is not there.
-    bool Remove(T const* object) {
+    bool Remove(T const* object) noexcept {
         auto const slot = SlotOf(object);
         if (slot == PointerIndex::none)
             return false;
@@ -101,10 +110,13 @@ private:
         return slot;
     }
 
-    void Compact() {
+    // Without the memory for it the holes stay until the next object goes.
+    void Compact() noexcept try {
         std::vector<Slot> newSlot(slots_.Slots().size());
         slots_.Compact([&](T&, Slot from, Slot to) { newSlot[from] = to; });
         index_.Renumber(newSlot);
+    } catch (std::bad_alloc const&) {
+        return;
     }
 
     SlotVector<T*> slots_;

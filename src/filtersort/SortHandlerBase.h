@@ -4,6 +4,7 @@
 #pragma once
 
 #include "filtersort/ChildGroupOrder.h"
+#include "view/ViewLifetime.h"
 
 #include <zbBrowserView/platform/zbBrowserErrorReporter.h>
 
@@ -21,13 +22,11 @@ class ViewContext;
 //! Keeps the sorted column of a view and its direction, and orders what the folders list. It sorts
 //! nothing by itself: each list is sorted when it is first read in sorted form after its order was
 //! lost. A change of the direction sorts nothing at all, it reads the lists the other way round.
-class SortHandlerBase : public zbBrowserErrorReporter {
+class SortHandlerBase : public zbBrowserErrorReporter, public Retirable {
 public:
     using Items = std::vector<zbIBrowserViewItem*>;
 
     explicit SortHandlerBase(ViewContext& context);
-    SortHandlerBase(SortHandlerBase const&) = delete;
-    SortHandlerBase& operator=(SortHandlerBase const&) = delete;
     ~SortHandlerBase() override;
 
     //! Null: the view is not sorted.

@@ -7,7 +7,7 @@
 #include <zbBrowserView/zbBrowserView.h>
 
 #include <memory>
-#include <new>
+#include <utility>
 
 namespace zbbrowser::detail {
 
@@ -61,23 +61,26 @@ void OldViewContext::UnregisterFolder(zbBrowserViewItemFreeFolder const& folder)
     OnFolderGone(folder);
 }
 
-DetachedLeaves::~DetachedLeaves() {
-    for (auto* const leaf : leaves_)
-        context_.Forget(*leaf);
-    auto const destroy = [](void* leaf, void* context) {
-        Destroy(*static_cast<zbBrowserViewItemDataLeaf*>(leaf),
-                *static_cast<OldViewContext*>(context));
-    };
-    try {
-        for (auto* const leaf : leaves_)
-            context_.Lifetime().Retire(leaf, destroy, &context_);
-    } catch (std::bad_alloc const&) {
-        return;
-    }
+DetachedLeaves::DetachedLeaves(OldViewContext& context, std::size_t count)
+    : leaves_(std::make_unique<Leaves>(context)) {
+    leaves_->items.reserve(count);
 }
 
-std::vector<zbIBrowserViewItem*> DetachedLeaves::Items() const {
-    return {leaves_.begin(), leaves_.end()};
+DetachedLeaves::~DetachedLeaves() {
+    auto& context = leaves_->context;
+    for (auto* const leaf : leaves_->items)
+        context.Forget(*leaf);
+    if (!IsEmpty())
+        context.Lifetime().Retire(std::move(leaves_));
+}
+
+DetachedLeaves::Leaves::~Leaves() {
+    for (auto* const leaf : items)
+        Destroy(static_cast<zbBrowserViewItemDataLeaf&>(*leaf), context);
+}
+
+void DetachedLeaves::Add(zbBrowserViewItemDataLeaf& leaf) {
+    leaves_->items.push_back(&leaf);
 }
 
 void DetachedLeaves::Destroy(zbBrowserViewItemDataLeaf& leaf, OldViewContext& context) {

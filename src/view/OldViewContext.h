@@ -77,30 +77,36 @@ private:
 };
 
 //! Leaves that have left their content and are about to go. They are freed with this object, or,
-//! while an operation of the view is running, when that returns. If there is no memory to note that
-//! down, their memory goes with the view.
+//! while an operation of the view is running, when that returns.
 class DetachedLeaves {
 public:
-    explicit DetachedLeaves(OldViewContext& context)
-        : context_(context) {}
+    //! Makes room for `count` leaves, so that what follows takes no memory.
+    DetachedLeaves(OldViewContext& context, std::size_t count);
     DetachedLeaves(DetachedLeaves const&) = delete;
     DetachedLeaves& operator=(DetachedLeaves const&) = delete;
     ~DetachedLeaves();
 
-    bool IsEmpty() const { return leaves_.empty(); }
-    void Reserve(std::size_t count) { leaves_.reserve(count); }
-    //! Requires: room for one more, see Reserve.
-    void Add(zbBrowserViewItemDataLeaf& leaf) { leaves_.push_back(&leaf); }
+    bool IsEmpty() const { return leaves_->items.empty(); }
+    //! Requires: room for one more.
+    void Add(zbBrowserViewItemDataLeaf& leaf);
 
     //! A copy for slots, which may change what they are given.
-    std::vector<zbIBrowserViewItem*> Items() const;
+    std::vector<zbIBrowserViewItem*> Items() const { return leaves_->items; }
 
     //! Frees a leaf that nobody can hold any more.
     static void Destroy(zbBrowserViewItemDataLeaf& leaf, OldViewContext& context);
 
 private:
-    OldViewContext& context_;
-    std::vector<zbBrowserViewItemDataLeaf*> leaves_; // Owned
+    struct Leaves final : Retirable {
+        explicit Leaves(OldViewContext& itsContext)
+            : context(itsContext) {}
+        ~Leaves() override;
+
+        OldViewContext& context;
+        std::vector<zbIBrowserViewItem*> items; // Leaves, owned
+    };
+
+    std::unique_ptr<Leaves> leaves_;
 };
 
 } // namespace zbbrowser::detail

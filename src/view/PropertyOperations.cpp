@@ -76,12 +76,10 @@ bool DeleteVPConnect(ViewContext& context, zbIBrowserViewProperty* property,
 }
 
 void DeleteViewProperties(ViewContext& context) {
-    std::vector<zbIBrowserViewProperty*> properties;
-    GetViewPropertyList(context, properties);
-    if (auto* const columns = context.Columns(); columns != nullptr) {
-        for (auto* const property : properties)
-            columns->OnViewPropertyDeleted(property);
-    }
+    auto const* const list = context.Properties();
+    auto* const columns = context.Columns();
+    if (list != nullptr && columns != nullptr)
+        list->ForEach([columns](auto* property) { columns->OnViewPropertyDeleted(property); });
     context.SetProperties(nullptr);
 }
 

@@ -12,25 +12,22 @@ void ViewLifetime::GiveUp(void* view, void (*destroy)(void*)) {
     whenIdle_ = destroy;
 }
 
-void ViewLifetime::Retire(void* object, void (*destroy)(void*, void*), void* owner) {
-    if (depth_ == 0) {
-        destroy(object, owner);
+void ViewLifetime::Retire(std::unique_ptr<Retirable> object) noexcept {
+    if (depth_ == 0)
         return;
-    }
-    retired_.push_back({object, destroy, owner});
+    auto* const retired = object.release();
+    (firstRetired_ == nullptr ? firstRetired_ : lastRetired_->retiredNext_) = retired;
+    lastRetired_ = retired;
+    ++retiredCount_;
 }
 
-// Destroying an object may retire what it holds. The list is walked by index, since it may grow,
-// and in the order in which the objects went.
+// In the order in which the objects went. Destroying one may retire what it holds.
 void ViewLifetime::FreeRetired() {
-    for (std::size_t i = 0; i < retired_.size(); ++i) {
-        auto const gone = retired_[i];
-        gone.destroy(gone.object, gone.owner);
+    while (firstRetired_ != nullptr) {
+        std::unique_ptr<Retirable> const gone(firstRetired_);
+        firstRetired_ = gone->retiredNext_;
     }
-    retired_.clear();
-    constexpr std::size_t keptEntries = 1024;
-    if (retired_.capacity() > keptEntries)
-        std::vector<Retired>().swap(retired_);
+    retiredCount_ = 0;
 }
 
 } // namespace zbbrowser::detail

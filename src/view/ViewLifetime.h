@@ -5,9 +5,23 @@
 
 #include <cstddef>
 #include <memory>
-#include <vector>
 
 namespace zbbrowser::detail {
+
+//! What a view can hold back. It brings along the link of the list that it is put into, since what
+//! goes must not need memory for that.
+class Retirable {
+public:
+    Retirable() = default;
+    Retirable(Retirable const&) = delete;
+    Retirable& operator=(Retirable const&) = delete;
+    virtual ~Retirable() = default;
+
+private:
+    friend class ViewLifetime;
+
+    Retirable* retiredNext_ = nullptr; // Owned by the list, as this object is
+};
 
 //! Counts how deep the view's public operations are nested and holds back the destruction of
 //! whatever goes meanwhile.
@@ -40,39 +54,28 @@ public:
     void NoteHostRun() { ++hostRuns_; }
 
     //! Objects that are held back now. While an operation runs, this grows with all that goes.
-    std::size_t RetiredCount() const { return retired_.size(); }
+    std::size_t RetiredCount() const { return retiredCount_; }
 
     //! Gives the view up: `destroy(view)` runs when the outermost operation returns.
     //! Requires: IsBusy().
     void GiveUp(void* view, void (*destroy)(void*));
 
     //! Frees `object` when the outermost operation returns, at once if none is running.
-    template <class T>
-    void Retire(std::unique_ptr<T> object) {
-        Retire(
-            object.get(), [](void* retired, void*) { delete static_cast<T*>(retired); }, nullptr);
-        static_cast<void>(object.release());
-    }
-
-    //! The same for an object that is not freed by `delete`: `destroy(object, owner)` runs instead.
-    //! If there is no memory to note it down, this throws and the object is still the caller's.
-    void Retire(void* object, void (*destroy)(void* object, void* owner), void* owner);
+    void Retire(std::unique_ptr<Retirable> object) noexcept;
 
 private:
     friend class CallScope;
 
-    struct Retired {
-        void* object;
-        void (*destroy)(void*, void*);
-        void* owner; // Not owned; outlives this object
-    };
-
-    // Inline, since every cell that is painted takes it several times.
+    // Inline, since every cell that is painted takes it several times. The count is written on each
+    // way by itself: decremented in a condition, g++ 12 at -O1 loses it while an exception passes.
     void Leave() {
-        if (depth_ == 1 && !retired_.empty())
-            FreeRetired();
-        if (--depth_ > 0)
+        if (depth_ > 1) {
+            --depth_;
             return;
+        }
+        if (firstRetired_ != nullptr)
+            FreeRetired();
+        depth_ = 0;
         hostRuns_ = 0;
         if (whenIdle_ != nullptr)
             whenIdle_(view_); // Frees this object too
@@ -81,7 +84,9 @@ private:
 
     std::size_t depth_ = 0;
     std::size_t hostRuns_ = 0;
-    std::vector<Retired> retired_;
+    std::size_t retiredCount_ = 0;
+    Retirable* firstRetired_ = nullptr; // Owned, with those behind it
+    Retirable* lastRetired_ = nullptr;
     void* view_ = nullptr; // Not owned; set once the view has been given up
     void (*whenIdle_)(void*) = nullptr;
 };

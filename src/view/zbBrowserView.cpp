@@ -27,10 +27,15 @@ zbBrowserView::zbBrowserView(zbBrowserViewCtrl const* ctrl, char const* name)
     context->SetSelection(std::make_shared<zbBrowserSelectionManager>(*context));
     root_ = new zbBrowserViewItemVirtualRoot(*context);
     context_ = context.release();
-    CreateViewPropertyHolder();
-    CreateDefaultViewProperties();
-    CreateDefaultColumn();
-    CreateSortHandler();
+    try {
+        CreateViewPropertyHolder();
+        CreateDefaultViewProperties();
+        CreateDefaultColumn();
+        CreateSortHandler();
+    } catch (...) {
+        CleanUp();
+        throw;
+    }
 }
 
 zbBrowserView::zbBrowserView(zbBrowserView const& other)

@@ -76,7 +76,7 @@ void zbBrowserView::ReportUpdated(Collect collect) {
                 FindFreeFolder(leaf->GetParentFreeFolder())
                     ->RequireHolder()
                     .NoGrouping()
-                    .NoteChangedValues();
+                    .NoteChangedValues(*leaf);
         }
         RaiseChanged(parents);
     });
@@ -231,8 +231,7 @@ void zbBrowserView::DeleteDataDependentViewItems(zbIBrowserDataItemHierarchical*
 
 void zbBrowserView::DeleteViewItemList(Items& items, bool silent) {
     CallScope const scope(context_->Lifetime());
-    DetachedLeaves gone(*context_);
-    gone.Reserve(items.size());
+    DetachedLeaves gone(*context_, items.size());
     for (auto* const item : items) {
         if (auto* const leaf = context_->FindLeaf(item); leaf != nullptr) {
             leaf->TakeOutOfStore();

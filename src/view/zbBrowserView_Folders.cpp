@@ -63,7 +63,10 @@ bool zbBrowserView::DeleteTree(zbIBrowserViewItemFreeFolder* const folder,
 zbIBrowserDataSourceHierarchical*
 zbBrowserView::FindTree(zbIBrowserViewItemFreeFolder* const folder,
                         zbIBrowserDataSourceHierarchical* const tree) {
-    return folder == nullptr || tree == nullptr ? nullptr : folder->FindTree(tree->GetName());
+    if (folder == nullptr || tree == nullptr)
+        return nullptr;
+    CallScope const scope(context_->Lifetime()); // The tree may delete the folder when it is asked
+    return folder->FindTree(tree->GetName());
 }
 
 bool zbBrowserView::SetShowChildType(zbIBrowserViewItemFreeFolder* folder,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "containers/PointerList.h"
 
+#include "support/AllocationFailures.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -27,6 +29,22 @@ TEST_F(PointerListTest, ANewListIsEmpty) {
     EXPECT_EQ(list.Count(), 0U);
     EXPECT_THAT(list.Snapshot(), IsEmpty());
     EXPECT_EQ(list.Find(&a), nullptr);
+}
+
+TEST_F(PointerListTest, RemovingNeedsNoMemory) {
+    std::vector<int> many(100);
+    for (int& each : many)
+        list.Add(&each);
+
+    zbtest::AllocationFailures::Begin(zbtest::Failing::Always, 0);
+    for (std::size_t i = 1; i < many.size(); ++i)
+        list.Remove(&many[i]);
+    zbtest::AllocationFailures::End();
+
+    EXPECT_TRUE(zbtest::AllocationFailures::HasFailed()); // Holes could not be closed
+    EXPECT_THAT(list.Snapshot(), ElementsAre(&many.front()));
+    EXPECT_TRUE(list.Contains(&many.front()));
+    EXPECT_FALSE(list.Contains(&many.back()));
 }
 
 TEST_F(PointerListTest, KeepsTheOrderOfInsertion) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "view/ViewLifetime.h"
 
+#include "support/AllocationFailures.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -14,18 +16,20 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using zbbrowser::detail::CallScope;
+using zbbrowser::detail::Retirable;
 using zbbrowser::detail::ViewLifetime;
+using zbtest::AllocationCount;
+using zbtest::MemoryIsBack;
 
 using Log = std::vector<std::string>;
 
 //! Writes its name when it is destroyed, after it has retired what it holds.
-struct Parked {
+struct Parked final : Retirable {
     Parked(Log& itsLog, std::string itsName)
         : log(itsLog)
         , name(std::move(itsName)) {}
-    Parked(Parked const&) = delete;
-    Parked& operator=(Parked const&) = delete;
-    ~Parked() {
+    ~Parked() override {
+        MemoryIsBack const memory;
         if (below != nullptr)
             lifetime->Retire(std::move(below));
         log.push_back(name);
@@ -110,17 +114,17 @@ TEST_F(ViewLifetimeTest, FreesManyAndCanBeUsedAgain) {
     }
 }
 
-TEST_F(ViewLifetimeTest, RunsTheGivenDestroyerWithItsOwner) {
-    std::string object = "object";
-    auto const destroy = [](void* retired, void* owner) {
-        static_cast<Log*>(owner)->push_back(*static_cast<std::string*>(retired));
-    };
-    {
-        CallScope const scope(lifetime);
-        lifetime.Retire(&object, destroy, &log);
-        EXPECT_THAT(log, IsEmpty());
-    }
-    EXPECT_THAT(log, ElementsAre("object"));
+TEST_F(ViewLifetimeTest, RetiringTakesNoMemory) {
+    auto a = Make("a");
+    auto b = Make("b");
+    CallScope const scope(lifetime);
+    auto const before = AllocationCount();
+
+    lifetime.Retire(std::move(a));
+    lifetime.Retire(std::move(b));
+
+    EXPECT_EQ(AllocationCount(), before);
+    EXPECT_EQ(lifetime.RetiredCount(), 2U);
 }
 
 TEST_F(ViewLifetimeTest, FreesWhenAnExceptionClosesTheScope) {
@@ -140,7 +144,10 @@ struct View {
         : log(itsLog) {}
     View(View const&) = delete;
     View& operator=(View const&) = delete;
-    ~View() { log.push_back("view"); }
+    ~View() {
+        MemoryIsBack const memory;
+        log.push_back("view");
+    }
 
     Log& log;
     ViewLifetime lifetime;

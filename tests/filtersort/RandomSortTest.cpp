@@ -10,6 +10,7 @@
 #include <set>
 #include <sstream>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -24,15 +25,23 @@ public:
     void Remove(RecordingItem const& item) {
         std::erase(stored_, &item);
         inOrder_.erase(&item);
+        changed_.erase(&item);
     }
-    void SetUnsorted() { inOrder_.clear(); }
+    void SetUnsorted() {
+        inOrder_.clear();
+        changed_.clear();
+    }
     //! It is sorted into the others, behind those that it ties with.
     void SetUnsorted(RecordingItem const& item) { inOrder_.erase(&item); }
+    //! So it is, but only when another one has to be.
+    void SetChanged(RecordingItem const& item) { changed_.insert(&item); }
 
     template <class Less>
     void Sort(Less less) {
         if (inOrder_.size() == stored_.size())
             return;
+        for (auto const* const item : std::exchange(changed_, {}))
+            inOrder_.erase(item);
         std::stable_partition(stored_.begin(), stored_.end(),
                               [this](auto const* item) { return inOrder_.contains(item); });
         std::stable_sort(stored_.begin(), stored_.end(), less);
@@ -43,6 +52,7 @@ public:
 private:
     std::vector<RecordingItem*> stored_;
     std::set<RecordingItem const*> inOrder_;
+    std::set<RecordingItem const*> changed_;
 };
 
 //! The folder "box" shows the sources part and tool. Names and weights come from a few values, and
@@ -131,6 +141,7 @@ private:
         log << " change";
         item->Set("weight", static_cast<int>(Below(4)));
         host.Controller().OnDataItemSimpleUpdated(item);
+        model.SetChanged(*item);
     }
     void Refresh() {
         auto* const item = AnyItem();

@@ -359,6 +359,7 @@ TEST_F(FlatContentTest, DeleteAllDependentIsTheSame) {
 class OutOfStepTest : public FlatContentTest {
 protected:
     OutOfStepTest() {
+        host.isCheckedAfterFailure = false;
         Show(folder, part);
         auto& context = folder.Context();
         auto* const leaf = new (context.LeafMemory().Allocate())

@@ -49,6 +49,45 @@ TEST_F(HostCallsTest, AListThatIsDeletedWhileTheSourceIsAskedForAnItemGetsNoFurt
     EXPECT_THAT(Rows(folder), IsEmpty());
 }
 
+TEST_F(HostCallsTest, AListThatIsDeletedWhileAnItemIsAskedForItsSourceGetsNoRow) {
+    host.calls.On("GetDataSource", "bolt", [&] {
+        host.calls.Off("GetDataSource", "bolt");
+        folder.DeleteList(&part);
+    });
+
+    EXPECT_FALSE(folder.CreateList(&part));
+    EXPECT_TRUE(Flat(folder).Leaves().IsEmpty());
+}
+
+TEST_F(HostCallsTest, TheSameForRowsThatAreMadeSilently) {
+    Show(folder, part);
+    Flat(folder).DeleteAll();
+    host.calls.On("GetDataSource", "nut", [&] {
+        host.calls.Off("GetDataSource", "nut");
+        folder.DeleteList(&part);
+    });
+    CallScope const scope(Lifetime());
+
+    EXPECT_FALSE(Flat(folder).ConnectAll(true));
+    EXPECT_TRUE(Flat(folder).Leaves().IsEmpty());
+}
+
+TEST_F(HostCallsTest, ARowIsMadeOnceThoughAnotherOneGoesWhileItsItemIsAskedForItsSource) {
+    Show(folder, part);
+    part.Add("saw");
+    host.calls.On("GetDataSource", "saw", [&] {
+        host.calls.Off("GetDataSource", "saw");
+        part.Unlist("nut");
+        part.dirty = true;
+        View().OnAllDirtyDataListsRebuild();
+    });
+    CallScope const scope(Lifetime());
+    Flat(folder).ConnectList(&part, false);
+
+    EXPECT_THAT(Rows(folder), ElementsAre("bolt", "pin", "saw"));
+    EXPECT_TRUE(Flat(folder).Leaves().IsIndexInStep());
+}
+
 TEST_F(HostCallsTest, AListThatIsDeletedAtTheBeginningOfARebuildStaysDeleted) {
     Show(folder, part);
     During("GetDataItems", [&] { folder.DeleteList(&part); });

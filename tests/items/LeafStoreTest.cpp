@@ -2,6 +2,7 @@
 #include "items/old/LeafStore.h"
 
 #include "ItemsTest.h"
+#include "support/AllocationFailures.h"
 
 #include <algorithm>
 #include <memory>
@@ -53,6 +54,21 @@ TEST_F(LeafStoreTest, ANewStoreIsEmptyAndFindsNothing) {
     EXPECT_EQ(store.Find(ItemAt(0)), nullptr);
     EXPECT_THAT(store.SnapshotOf(SourceAt(0)), IsEmpty());
     EXPECT_TRUE(store.IsConsistent());
+}
+
+TEST_F(LeafStoreTest, TakingLeavesOutNeedsNoMemory) {
+    for (std::size_t i = 0; i < 100; ++i)
+        Append(i, i % 2);
+
+    zbtest::AllocationFailures::Begin(zbtest::Failing::Always, 0);
+    for (std::size_t i = 1; i < 100; ++i)
+        store.Take(*made[i]);
+    zbtest::AllocationFailures::End();
+
+    EXPECT_TRUE(zbtest::AllocationFailures::HasFailed()); // Holes could not be closed
+    EXPECT_TRUE(store.IsConsistent());
+    EXPECT_THAT(store.SnapshotOf(SourceAt(0)), ElementsAre(made.front().get()));
+    EXPECT_THAT(store.SnapshotOf(SourceAt(1)), IsEmpty());
 }
 
 TEST_F(LeafStoreTest, FindsALeafByItsDataItem) {
@@ -255,6 +271,22 @@ TEST_F(LeafStoreTest, AnOrderGivesAllTheirPlacesBack) {
     EXPECT_TRUE(store.IsOrdered());
     EXPECT_EQ(store.AppendOrderedFirst(rows), 3U);
     EXPECT_THAT(AsLeaves(rows), ElementsAre(&b, &a, &c));
+}
+
+TEST_F(LeafStoreTest, AChangedLeafCountsAsOrderedAndComesBehindTheOthersAllTheSame) {
+    auto& a = Append(1);
+    auto& b = Append(2);
+    store.Reorder({&a, &b});
+
+    store.NoteChanged(a);
+
+    EXPECT_TRUE(store.IsOrdered());
+    Items rows;
+    EXPECT_EQ(store.AppendOrderedFirst(rows), 1U);
+    EXPECT_THAT(AsLeaves(rows), ElementsAre(&b, &a));
+    store.Reorder({&b, &a});
+    Items sorted;
+    EXPECT_EQ(store.AppendOrderedFirst(sorted), 2U);
 }
 
 TEST_F(LeafStoreTest, LeavesThatLostTheirPlaceAreKnownWhenHolesAreClosed) {

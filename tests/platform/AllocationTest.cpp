@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! What must not allocate: short texts, and raising signals.
-#include "CountingNew.h"
 #include "SignalTestTypes.h"
+#include "support/AllocationFailures.h"
 
 #include <zbBrowserView/platform/zbString.h>
 #include <zbBrowserView/platform/zbVariant.h>
@@ -11,6 +11,8 @@
 
 namespace platformtest {
 namespace {
+
+using zbtest::AllocationCount;
 
 //! How many allocations \p action makes.
 template <class Action>

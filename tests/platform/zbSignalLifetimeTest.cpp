@@ -112,8 +112,9 @@ TEST_F(zbSignalLifetimeTest, AListenerMayDestroyTheSignalAndItself) {
         }
         std::unique_ptr<Signal>& signal;
     };
-    auto* const listener = new Destroyer(signal);
-    Handle const handle = signal->Connect(listener, &Destroyer::Hear);
+    auto listener = std::make_unique<Destroyer>(signal);
+    Handle const handle = signal->Connect(listener.get(), &Destroyer::Hear);
+    static_cast<void>(listener.release());
 
     (*signal)(0);
 
@@ -168,14 +169,14 @@ TEST_F(zbSignalLifetimeTest, TheEndOfASlotCutDuringAnEmissionMayRaiseTheSignal) 
 }
 
 TEST_F(zbSignalLifetimeTest, TheEndOfACutSlotMayCutOthers) {
-    Handle second;
-    Handle first = signal->Connect([end = AtEnd([&] { second.Disconnect(); })](int) {});
-    second = signal->Connect([](int) {});
+    auto const second = std::make_shared<Handle>();
+    Handle first = signal->Connect([end = AtEnd([second] { second->Disconnect(); })](int) {});
+    *second = signal->Connect([](int) {});
     ConnectLetter(*signal, text, 'z');
 
     first.Disconnect();
 
-    EXPECT_FALSE(second.IsConnected());
+    EXPECT_FALSE(second->IsConnected());
     EXPECT_EQ(signal->Count(), 1U);
 }
 

@@ -59,13 +59,9 @@ TEST_F(InvariantCheckerTest, ARowWithoutItsListIsFound) {
     // given
     auto& content = A().Holder()->NoGrouping();
 
-    // when: a list is built that was not recorded
-    RecordingSource& other = host.Source("other").Items({"saw_1"});
-    content.DisconnectList(&part, true);
-    RecordingItem* const item = other.Find("saw_1");
-    std::vector<zbIBrowserViewItem*> created;
-    std::vector<zbIBrowserViewItem*> parents;
-    content.OnDataItemCreated(item, created, parents);
+    // when: a source lists an item that says to be of another one
+    part.Add("saw_1").source = &host.Source("other");
+    content.ConnectList(&part, true);
 
     // then
     EXPECT_THAT(Problems(), HasSubstr("view:a: each row belongs to a list\n"));

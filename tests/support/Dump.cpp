@@ -8,6 +8,7 @@
 
 #include <zbBrowserView/host/zbIBrowserDataSourceHierarchical.h>
 #include <zbBrowserView/host/zbIBrowserDataSourceSimple.h>
+#include <zbBrowserView/zbIBrowserSelectionManager.h>
 
 namespace zbtest {
 
@@ -57,6 +58,11 @@ void AppendTrees(std::string& text, Folder const& folder) {
     text.append("}");
 }
 
+bool IsSelected(zbIBrowserViewItem const& item) {
+    auto& manager = *item.GetView()->GetSelectionManager();
+    return manager.IsViewItemSelected(const_cast<zbIBrowserViewItem*>(&item));
+}
+
 void AppendFlags(std::string& text, Folder const& folder) {
     auto const append = [&](bool flag, char const* name) { text.append(flag ? name : ""); };
     append(folder.IsExpanded() && !folder.IsVirtualRoot(), " open");
@@ -69,6 +75,7 @@ void AppendFlags(std::string& text, Folder const& folder) {
     append(folder.GetTextBold(), " bold");
     append(folder.GetTextItalic(), " italic");
     append(folder.Holder() == nullptr, " unused");
+    append(IsSelected(folder), " selected");
 }
 
 void AppendRows(std::string& text, Folder const& folder, std::string const& indent,
@@ -76,7 +83,8 @@ void AppendRows(std::string& text, Folder const& folder, std::string const& inde
     std::vector<zbIBrowserViewItem*> rows;
     folder.GetAllViewItems(rows, false);
     for (auto* const row : rows) {
-        text.append(indent).append(NameOf(row, calls)).append(row->IsHidden() ? " hidden\n" : "\n");
+        text.append(indent).append(NameOf(row, calls)).append(row->IsHidden() ? " hidden" : "");
+        text.append(IsSelected(*row) ? " selected\n" : "\n");
     }
 }
 

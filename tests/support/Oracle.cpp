@@ -28,8 +28,21 @@ T* FindNamed(std::vector<T*> const& all, std::string const& name) {
 
 std::string Oracle::Take(ScriptStep const& step) {
     hostHasRun_ = false;
-    auto const found = Handlers().find(step.Name());
-    return found == Handlers().end() ? "unknown step" : (this->*found->second)(step);
+    openOrder_ = nullptr;
+    Handler const handler = HandlerOf(step);
+    return handler == nullptr ? "unknown step" : (this->*handler)(step);
+}
+
+// A new view takes the steps of its own, and those that both kinds take in the same way.
+Oracle::Handler Oracle::HandlerOf(ScriptStep const& step) {
+    auto const find = [&](std::map<std::string, Handler> const& handlers) {
+        auto const found = handlers.find(step.Name());
+        return found == handlers.end() ? nullptr : found->second;
+    };
+    Handler const ofNewView = step.Arg(1).starts_with('n') ? find(NewViewHandlers()) : nullptr;
+    Handler handler = ofNewView != nullptr ? ofNewView : find(Handlers());
+    handler = handler != nullptr ? handler : find(ColumnHandlers());
+    return handler != nullptr ? handler : find(SelectionHandlers());
 }
 
 std::map<std::string, Oracle::Handler> const& Oracle::Handlers() {
@@ -85,6 +98,7 @@ std::map<std::string, Oracle::Handler> const& Oracle::Handlers() {
         {"build-item", &Oracle::BuildItem},
         {"unbuild-item", &Oracle::UnbuildItem},
         {"delete-rows", &Oracle::DeleteRows},
+        {"unsort-all", &Oracle::UnsortAll},
     };
     return handlers;
 }
@@ -97,7 +111,16 @@ std::string Oracle::MakeView(ScriptStep const& step) {
     }
     View& view = views_.emplace_back();
     view.name = step.Arg(1);
+    view.isNew = view.name.starts_with('n');
     view.root.open = true;
+    view.root.used = view.isNew;
+    view.columns.push_back(std::make_unique<Column>());
+    view.columns.front()->name = "default_column";
+    for (char const* const name : {"default_name_prop", "default_icon_name_prop",
+                                   "default_bold_text_prop", "default_italic_text_prop"}) {
+        view.properties.push_back(std::make_shared<Property>());
+        view.properties.back()->name = name;
+    }
     return "true";
 }
 
@@ -303,7 +326,7 @@ std::string Oracle::State(std::string const& name) const {
     for (RecordingTree const* const tree : view->trees) {
         text.append(" ").append(tree->Name());
     }
-    text.append("\n");
+    text.append("\n").append(TextOfPresentation(*view));
     AppendDump(text, view->root, "");
     return text;
 }
@@ -349,9 +372,12 @@ void Oracle::AppendDump(std::string& text, Folder const& folder, std::string con
     text += folder.showsWhenEmpty ? "" : " when-filled";
     text += folder.bold ? " bold" : "";
     text += folder.italic ? " italic" : "";
-    text += folder.used ? "\n" : " unused\n";
+    text += folder.used ? "" : " unused";
+    text += folder.selected ? " selected" : "";
+    text += folder.changed ? " changed\n" : "\n";
     for (Row const& row : folder.rows) {
-        text += indent + "  " + NameOf(row) + (row.hidden ? " hidden\n" : "\n");
+        text += indent + "  " + NameOf(row) + (row.hidden ? " hidden" : "");
+        text += row.selected ? " selected\n" : "\n";
     }
     for (auto const& child : folder.children) {
         AppendDump(text, *child, indent + "  ");

@@ -59,8 +59,9 @@ std::string Oracle::Updated(ScriptStep const& step) {
         }
         for (Folder* const folder : PreOrder(view.root)) {
             folder->used = true;
-            for (Row const& row : folder->rows) {
+            for (Row& row : folder->rows) {
                 if (row.item == item) {
+                    row.changed = true;
                     Changed(*folder);
                 }
             }
@@ -96,9 +97,7 @@ std::string Oracle::Renumbered(ScriptStep const& step) {
         return "skip";
     }
     for (View& view : views_) {
-        for (Folder* const folder : PreOrder(view.root)) {
-            folder->used = true;
-        }
+        LoosenAll(view);
     }
     return "";
 }
@@ -108,6 +107,7 @@ std::string Oracle::RebuildAll(ScriptStep const& step) {
     if (view == nullptr) {
         return "skip";
     }
+    ForEachItem(*view, [](Item const& item) { Mark(item) = false; });
     for (Folder* const folder : PreOrder(view->root)) {
         folder->rows.clear();
     }
@@ -132,12 +132,12 @@ std::string Oracle::Build(ScriptStep const& step) {
 
 // Rebuilding and refreshing
 
-void Oracle::RebuildList(Folder& folder, RecordingSource* source) {
+void Oracle::RebuildList(View& view, Folder& folder, RecordingSource* source) {
     auto const items = Listed(*source);
     if (source->failing) {
         return;
     }
-    DropRows(folder, [&](Row const& row) {
+    DropRows(view, folder, [&](Row const& row) {
         return row.source == source &&
                std::find(items.begin(), items.end(), row.item) == items.end();
     });
@@ -158,9 +158,11 @@ void Oracle::RebuildList(Folder& folder, RecordingSource* source) {
 void Oracle::RefreshFolder(Folder& folder) {
     folder.used = true;
     for (RecordingSource const* const list : folder.lists) {
-        for (Row const& row : folder.rows) {
+        for (Row& row : folder.rows) {
             bool const mayBeAsked = !hostHasRun_ || Holds<RecordingItem>(list->All(), row.item);
             if (row.source == list && mayBeAsked && row.item->dirty) {
+                row.ordered = false;
+                folder.mayBeLoose = true;
                 Signal("ViewItemChanged " + NameOf(row));
             }
         }
@@ -176,7 +178,7 @@ std::string Oracle::RebuildLists(ScriptStep const& step) {
         folder->used = true;
         for (RecordingSource* const list : folder->lists) {
             if (IsDirty(*list)) {
-                RebuildList(*folder, list);
+                RebuildList(*view, *folder, list);
             }
         }
         for (int content = 0; content < contentsOfAFolder; ++content) {
@@ -215,6 +217,7 @@ std::string Oracle::Redraw(ScriptStep const& step) {
                     continue;
                 }
                 drawn.push_back(list);
+                folder->basis = grouped ? folder->basis : Basis();
                 for (Row const& row : grouped ? std::vector<Row>() : folder->rows) {
                     Signal("ViewItemChanged " + NameOf(row));
                 }
@@ -266,7 +269,7 @@ std::string Oracle::DeleteRows(ScriptStep const& step) {
     if (view == nullptr) {
         return "skip";
     }
-    std::string names;
+    std::vector<Row> gone;
     for (std::size_t i = 3; i < step.Count(); ++i) {
         std::string const& place = step.Arg(i);
         auto const equals = place.find('=');
@@ -279,11 +282,11 @@ std::string Oracle::DeleteRows(ScriptStep const& step) {
                 return NameOf(candidate) == place.substr(equals + 1);
             });
         if (row != folder->rows.end()) {
-            names += " " + NameOf(*row);
+            gone.push_back(*row);
             folder->rows.erase(row);
         }
     }
-    RowsGone(names, step.Flag(2));
+    RowsGone(*view, std::move(gone), step.Flag(2));
     return "";
 }
 

@@ -29,10 +29,13 @@ void Oracle::Forget(Folder& folder) {
     folder.groupedLists.clear();
     folder.trees.clear();
     folder.rows.clear();
+    folder.basis = Basis();
+    folder.mayBeLoose = false;
 }
 
 void Oracle::AddRow(Folder& folder, RecordingItem* item, RecordingSource* source, bool silent) {
     folder.rows.push_back({item, source});
+    folder.mayBeLoose = true;
     if (!silent) {
         Signal("ViewItemCreated " + NameOf(folder.rows.back()));
     }
@@ -56,32 +59,32 @@ bool Oracle::BuildList(Folder& folder, RecordingSource* source, bool silent) {
     return true;
 }
 
-void Oracle::DropRows(Folder& folder, std::function<bool(Row const&)> const& goes) {
-    std::string names;
-    for (Row const& row : folder.rows) {
-        if (goes(row)) {
-            names += " " + NameOf(row);
-        }
-    }
+void Oracle::DropRows(View& view, Folder& folder, std::function<bool(Row const&)> const& goes) {
+    std::vector<Row> gone;
+    std::copy_if(folder.rows.begin(), folder.rows.end(), std::back_inserter(gone), goes);
     std::erase_if(folder.rows, goes);
-    RowsGone(names, false);
+    RowsGone(view, std::move(gone), false);
 }
 
-void Oracle::RowsGone(std::string const& names, bool silent) {
-    if (names.empty()) {
+void Oracle::RowsGone(View& view, std::vector<Row> rows, bool silent) {
+    if (rows.empty()) {
         return;
     }
-    Deselected(names.substr(1));
-    Signal("ViewItemsSelected []");
+    Items items;
+    for (Row& row : rows) {
+        items.push_back({nullptr, &row});
+    }
+    Update(view, items, false, false);
+    Signal("ViewItemsSelected <" + NamesOfSelected(view) + ">");
     if (!silent) {
-        Signal("ViewItemListDeleted [" + names.substr(1) + "]");
+        Signal("ViewItemListDeleted [" + NamesOf(items) + "]");
     }
 }
 
 bool Oracle::RemoveList(View& view, Folder& folder, RecordingSource* source) {
     if (Holds(folder.lists, source)) {
         std::erase(folder.lists, source);
-        DropRows(folder, [source](Row const& row) { return row.source == source; });
+        DropRows(view, folder, [source](Row const& row) { return row.source == source; });
         Changed(folder);
     } else if (Holds(folder.groupedLists, source)) {
         std::erase(folder.groupedLists, source);

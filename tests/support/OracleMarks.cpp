@@ -119,14 +119,15 @@ bool Oracle::IsDataEmpty(Folder const& folder) const {
 }
 
 std::string Oracle::CanBeShown(ScriptStep const& step) {
-    Folder const* const folder = FindFolder(step.Arg(1));
+    View* view = nullptr;
+    Folder* const folder = FindFolder(step.Arg(1), &view);
     if (folder == nullptr) {
         return "skip";
     }
     if (folder->showsWhenEmpty || !IsDataEmpty(*folder)) {
         return "true";
     }
-    Deselected(NameOf(*folder));
+    Update(*view, {{folder, nullptr}}, false, false);
     return "false";
 }
 
@@ -158,13 +159,14 @@ std::string Oracle::Expand(ScriptStep const& step) {
 }
 
 std::string Oracle::Collapse(ScriptStep const& step) {
-    Folder* const top = FindFolder(step.Arg(1));
+    View* view = nullptr;
+    Folder* const top = FindFolder(step.Arg(1), &view);
     if (top == nullptr) {
         return "skip";
     }
     for (Folder* const folder : step.Flag(2) ? PreOrder(*top) : std::vector<Folder*>{}) {
         if (folder != top && folder->open) {
-            Deselected(NameOf(*folder));
+            Update(*view, {{folder, nullptr}}, false, false);
             CloseFolder(*folder);
         }
     }

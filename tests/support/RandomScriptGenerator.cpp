@@ -16,7 +16,7 @@ Script One(Words const&... words) {
 } // namespace
 
 Script ScriptGenerator::Prologue() {
-    return ParseScript(R"(
+    Script script = ParseScript(R"(
         view v0
         control v0 data
         connect v0 s0
@@ -40,21 +40,48 @@ Script ScriptGenerator::Prologue() {
         connect v1 s1
         folder v1:/ a
         list v1:a s1
+        view n0
+        control n0 data
+        folder n0:/ a
     )");
+    Script const sorted = ParseScript(R"(
+        notifier v0 on
+        value s0 a1 3
+        value s1 b0 2
+        column v0 c0
+        property v0 p0
+        connect-property v0 p0 s0 rank
+        connect-property v0 p0 s1 rank
+        connect-property v0 p0 s2 rank
+        column-style v0 c0 x p0
+        sort v0 c0 on
+        read v0:a
+        select v0:a a0 on off
+        folder n0:/ b10
+        folder n0:/ B2
+        keep-order n0:/ off
+        sort n0 default_column off
+        read n0:/
+    )");
+    if (numbers_.OneIn(2)) {
+        script.insert(script.end(), sorted.begin(), sorted.end());
+    }
+    return script;
 }
 
 Script ScriptGenerator::Next() {
     if (player_.IsCalm()) {
         return DrawStep();
     }
-    switch (numbers_.Below(6)) {
+    switch (numbers_.Below(8)) {
     case 0:
         return DrawAttack();
     case 1:
     case 2:
-        return DrawAmbush();
     case 3:
-        return DrawSelection();
+        return DrawAmbush();
+    case 4:
+        return numbers_.OneIn(2) ? DrawOddStep() : DrawPainting();
     default:
         return DrawStep();
     }
@@ -77,19 +104,17 @@ Script ScriptGenerator::DrawFrom(std::vector<Choice> const& choices) {
 
 Script ScriptGenerator::DrawStep() {
     return DrawFrom({
-        {16, &ScriptGenerator::DrawDataStep},
-        {8, &ScriptGenerator::DrawRemoval},
-        {10, &ScriptGenerator::DrawMark},
-        {8, &ScriptGenerator::DrawConnection},
-        {10, &ScriptGenerator::DrawFolder},
-        {18, &ScriptGenerator::DrawContent},
-        {6, &ScriptGenerator::DrawFolderMark},
-        {5, &ScriptGenerator::DrawExpansion},
-        {5, &ScriptGenerator::DrawHidden},
-        {12, &ScriptGenerator::DrawEvent},
-        {12, &ScriptGenerator::DrawRebuild},
-        {4, &ScriptGenerator::DrawRows},
-        {1, &ScriptGenerator::DrawCrowd},
+        {16, &ScriptGenerator::DrawDataStep},  {8, &ScriptGenerator::DrawRemoval},
+        {10, &ScriptGenerator::DrawMark},      {8, &ScriptGenerator::DrawConnection},
+        {10, &ScriptGenerator::DrawFolder},    {18, &ScriptGenerator::DrawContent},
+        {6, &ScriptGenerator::DrawFolderMark}, {5, &ScriptGenerator::DrawExpansion},
+        {5, &ScriptGenerator::DrawHidden},     {12, &ScriptGenerator::DrawEvent},
+        {12, &ScriptGenerator::DrawRebuild},   {4, &ScriptGenerator::DrawRows},
+        {1, &ScriptGenerator::DrawCrowd},      {8, &ScriptGenerator::DrawColumn},
+        {8, &ScriptGenerator::DrawOrder},      {14, &ScriptGenerator::DrawReading},
+        {6, &ScriptGenerator::DrawProperty},   {8, &ScriptGenerator::DrawValue},
+        {12, &ScriptGenerator::DrawSelection}, {8, &ScriptGenerator::DrawDataSelection},
+        {6, &ScriptGenerator::DrawQuestion},   {8, &ScriptGenerator::DrawNewView},
     });
 }
 
@@ -342,38 +367,6 @@ Script ScriptGenerator::DrawRows() {
         items += " " + folder + (isRow ? "=" + numbers_.Pick(rows) : "");
     }
     return One("delete-rows", view, Flag(), items);
-}
-
-// Names
-
-std::vector<std::string> const& ScriptGenerator::SourceNames() {
-    static std::vector<std::string> const names = {"s0", "s1", "s2", "s3"};
-    return names;
-}
-
-std::string ScriptGenerator::AnyView() {
-    return numbers_.OneIn(4) ? "v1" : "v0";
-}
-
-std::string ScriptGenerator::AnyPlace() {
-    std::string const view = AnyView();
-    auto const folders = player_.FolderNames(view);
-    return view + ":" + (folders.empty() || numbers_.OneIn(6) ? "/" : numbers_.Pick(folders));
-}
-
-std::string ScriptGenerator::AnySource() {
-    return numbers_.OneIn(3) ? "s1" : numbers_.Pick(SourceNames());
-}
-
-std::string ScriptGenerator::AnyItem(std::string const& source) {
-    auto const items = player_.Data().Items(source);
-    return items.empty() ? "none" : numbers_.Pick(items);
-}
-
-// Each source has a letter of its own, so that no two items have one name.
-std::string ScriptGenerator::NewItem(std::string const& source) {
-    char const letter = static_cast<char>('a' + (source.back() - '0'));
-    return std::string(1, letter) + std::to_string(numbers_.Below(8));
 }
 
 } // namespace zbtest

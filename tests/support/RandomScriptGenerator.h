@@ -16,7 +16,7 @@ public:
         , numbers_(seed) {}
 
     //! The lines with which each script begins.
-    [[nodiscard]] static Script Prologue();
+    [[nodiscard]] Script Prologue();
     [[nodiscard]] Script Next();
 
 private:
@@ -48,8 +48,26 @@ private:
     Script DrawEvent();
     Script DrawRebuild();
     Script DrawRows();
-    Script DrawSelection();
     Script DrawThrow();
+
+    // RandomScriptGenerator_Presentation.cpp
+    Script DrawColumn();
+    Script DrawOrder();
+    Script DrawReading();
+    Script DrawProperty();
+    Script DrawValue();
+    Script DrawSelection();
+    Script DrawDataSelection();
+    Script DrawQuestion();
+    Script DrawNewView();
+    Script DrawPainting();
+    Script DrawOddStep();
+    std::string AnyViewOfAll() { return numbers_.OneIn(6) ? "n0" : AnyView(); }
+    std::string AnyPlaceIn(std::string const& view);
+    std::string AnyRow(std::string const& place);
+    std::string AnyColumn();
+    std::string AnyProperty();
+    static std::string ViewOf(std::string const& place) { return place.substr(0, 2); }
 
     std::string AnyView();
     std::string AnyPlace();

@@ -15,6 +15,10 @@ Script ScriptGenerator::DrawAttack() {
         {5, &ScriptGenerator::DrawRebuild},
         {2, &ScriptGenerator::DrawRows},
         {6, &ScriptGenerator::DrawSelection},
+        {4, &ScriptGenerator::DrawColumn},
+        {3, &ScriptGenerator::DrawOrder},
+        {3, &ScriptGenerator::DrawProperty},
+        {3, &ScriptGenerator::DrawOddStep},
     });
     std::string const& on = AnyMoment();
     Script attacks;
@@ -73,24 +77,28 @@ ScriptStep ScriptGenerator::DrawVictim(std::string const& place, std::string con
         ScriptStep::Of(Flag() ? "expand" : "collapse", view + ":/", true),
         ScriptStep::Of("shows-when-empty", view + ":/", Flag(), true),
     };
-    return numbers_.Pick(steps);
-}
-
-// The model of the view selects nothing, so these are for hostile scripts only.
-Script ScriptGenerator::DrawSelection() {
-    std::string const place = AnyPlace();
-    auto const rows = player_.RowNames(place);
-    std::string const row = rows.empty() ? "none" : numbers_.Pick(rows);
-    std::string const source = AnySource();
-    std::vector<ScriptStep> const steps = {
-        ScriptStep::Of("select", place, row, true, Flag()),
-        ScriptStep::Of("select", place, row, !numbers_.OneIn(3), numbers_.OneIn(4)),
-        ScriptStep::Of("select-data", AnyView(), source, AnyItem(source), Flag()),
-        ScriptStep::Of("deselect-data", AnyView(), source, AnyItem(source)),
+    std::string const column = AnyColumn();
+    std::vector<ScriptStep> const ofPresentation = {
+        ScriptStep::Of("sort", view, column, Flag()),
+        ScriptStep::Of("read", place),
+        ScriptStep::Of("read", place),
+        ScriptStep::Of("drop-column", view, column),
+        ScriptStep::Of("show-column", view, column, Flag()),
+        ScriptStep::Of("sorting", view, Flag()),
+        ScriptStep::Of("italic-texts", view, Flag()),
+        ScriptStep::Of("paint", place, column),
+        ScriptStep::Of("drop-column-style", view, column, "x"),
+        ScriptStep::Of("read-forms", place, item, AnyProperty()),
+        ScriptStep::Of("select", place, item, Flag(), Flag()),
+        ScriptStep::Of("select-data", view, Flag(), source, item),
+        ScriptStep::Of("deselect-data", view, source, item),
         ScriptStep::Of("deselect-below", place),
-        ScriptStep::Of("drop-item", place, row),
+        ScriptStep::Of("deselect-all", view),
+        ScriptStep::Of("finish-selection", view),
+        ScriptStep::Of("panel-select", Flag(), Flag(), source, item),
+        ScriptStep::Of("ask-texts", view, source, AnyProperty()),
     };
-    return {numbers_.Pick(steps)};
+    return numbers_.Pick(numbers_.OneIn(2) ? steps : ofPresentation);
 }
 
 ScriptStep ScriptGenerator::DrawDeed(std::string const& place, std::string const& source,
@@ -113,6 +121,11 @@ ScriptStep ScriptGenerator::DrawDeed(std::string const& place, std::string const
         ScriptStep::Of("created", source, AnyItem(source)),
         ScriptStep::Of("unbuild-item", view, source, item, Flag()),
         ScriptStep::Of("drop-tree", place, AnyTree()),
+        ScriptStep::Of("drop-column", view, AnyColumn()),
+        ScriptStep::Of("drop-property", view, AnyProperty()),
+        ScriptStep::Of("sort", view, AnyColumn(), Flag()),
+        ScriptStep::Of("notifier", view, Flag()),
+        DrawVictim(place, source, item),
         DrawVictim(place, source, item),
         DrawVictim(place, source, item),
     };
@@ -124,11 +137,21 @@ std::string const& ScriptGenerator::AnyMoment() {
         "ViewItemCreated",    "ViewItemChanged",  "ViewItemDeleted", "ViewItemListDeleted",
         "ViewContentChanged", "ContainsDataItem", "GetDataItems",
     };
-    switch (numbers_.Below(4)) {
+    static std::vector<std::string> const ofPresentation = {
+        "ViewItemsSelected",  "ViewItemsDeselected",     "SelectionClearing",
+        "OnSelectionChanged", "OnSelectionFinished",     "DataItemsSelectionChanging",
+        "DataItemsGrouped",   "CompareByName",           "CompareByDataProperty",
+        "CompareDataSources", "ColumnSortChanged",       "SortChanging",
+        "ColumnDeleted",      "SelectionManagerChanged",
+    };
+    switch (numbers_.Below(6)) {
     case 0:
         return numbers_.Pick(ScriptPlayer::HostOperations());
     case 1:
         return numbers_.Pick(ScriptPlayer::Signals());
+    case 2:
+    case 3:
+        return numbers_.Pick(ofPresentation);
     default:
         return numbers_.Pick(frequent);
     }

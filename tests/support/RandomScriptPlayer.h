@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Oracle.h"
+#include "ScriptNotifier.h"
 #include "SignalRecorder.h"
 
 #include <functional>
@@ -14,6 +15,14 @@
 class zbBrowserView;
 class zbBrowserViewItemDataLeaf;
 class zbBrowserViewItemFreeFolder;
+class zbIBrowserSelectionManager;
+class zbIBrowserViewColumn;
+class zbIBrowserViewProperty;
+
+namespace zbbrowser {
+class View;
+class ViewItemFreeFolder;
+} // namespace zbbrowser
 
 namespace zbtest {
 
@@ -45,6 +54,7 @@ public:
     //! An exception went through a view, which may be deaf to data events since then.
     [[nodiscard]] bool HasThrown() const { return hasThrown_; }
     [[nodiscard]] ScriptData const& Data() const { return data_; }
+    //! Of the old views.
     [[nodiscard]] std::vector<std::string> ViewNames();
     //! The names of all folders of a view; the root is "/".
     [[nodiscard]] std::vector<std::string> FolderNames(std::string const& view);
@@ -59,6 +69,7 @@ public:
 private:
     using Folder = zbBrowserViewItemFreeFolder;
     using ItemSet = std::set<zbIBrowserViewItem*, std::less<>>;
+    using FlatItems = std::vector<zbIBrowserDataItemSimple*>;
     using Handler = std::string (ScriptPlayer::*)(ScriptStep const&);
     struct Attack {
         std::string on;
@@ -71,17 +82,27 @@ private:
     std::string PlayLose(ScriptStep const& step);
     std::string PlayDropSource(ScriptStep const& step);
     std::string PlayAll(Script const& steps);
-    void Listen();
-    void CheckSignalled(std::string const& signal, zbIBrowserViewItem const* item);
-    void Reached(std::string const& what, bool inHost);
     std::string Perform(ScriptStep const& step);
     static std::map<std::string, Handler> const& DataHandlers();
     static std::map<std::string, Handler> const& ViewHandlers();
     static std::map<std::string, Handler> const& FolderHandlers();
     static std::map<std::string, Handler> const& SelectionHandlers();
+    static std::map<std::string, Handler> const& QueryHandlers();
+    static std::map<std::string, Handler> const& ColumnHandlers();
+    static std::map<std::string, Handler> const& PropertyHandlers();
+    static Handler FindHandler(std::string const& name);
 
     //! A host operation other than GetDataItems must not free data items without telling.
     [[nodiscard]] bool MayFree() const { return lookingCalls_ == 0; }
+
+    // RandomScriptPlayer_Attacks.cpp
+    void Listen();
+    void Unhook();
+    void CheckSignalled(std::string const& signal, zbIBrowserViewItem const* item);
+    void HearNotice(std::string const& view, std::string const& operation,
+                    std::vector<zbIBrowserViewItem*> const& items, bool flag);
+    void Reached(std::string const& what, bool inHost);
+    std::string Arm(ScriptStep const& step);
 
     // RandomScriptPlayer_Checks.cpp
     std::string CheckInvariants();
@@ -91,13 +112,28 @@ private:
     bool HasGhosts();
     bool HasGhosts(zbBrowserView& view);
     bool IsForbiddenToAsk(zbBrowserView& view);
+    //! The view that the step names shows items that have gone, so nothing may be asked about them.
+    bool ShowsGhosts(ScriptStep const& step);
     void MarkAllForRebuild();
     zbBrowserView* View(std::string const& name);
+    zbIBrowserView* AnyView(std::string const& name);
+    static bool IsNewView(std::string const& nameOrPlace) { return nameOrPlace.starts_with('n'); }
+    zbIBrowserViewItemFreeFolder* FindAnyFolder(std::string const& place,
+                                                zbIBrowserView** view = nullptr);
+    std::string StateOfOld(std::string const& view);
     //! The first folder of that name from the root down; `view` is set if the view is there.
     Folder* FindFolder(std::string const& place, zbBrowserView** view = nullptr);
     zbIBrowserViewItem* FindRow(std::string const& place, std::string const& row);
     bool IsShown(RecordingItem const& item);
     bool IsUsed(RecordingSource const& source);
+
+    // RandomScriptPlayer_NewViews.cpp
+    zbbrowser::View* NewView(std::string const& name);
+    //! Each folder before those in it.
+    std::vector<zbbrowser::ViewItemFreeFolder*> NewFolders(std::string const& view);
+    std::string StateOfNew(std::string const& view);
+    std::string CheckNewViews();
+    std::string Lock(ScriptStep const& step);
 
     // RandomScriptPlayer_Data.cpp
     std::string MakeItem(ScriptStep const& step);
@@ -113,9 +149,11 @@ private:
     std::string MarkSource(ScriptStep const& step);
     std::string MarkTree(ScriptStep const& step);
     std::string Fail(ScriptStep const& step);
+    std::string SetValue(ScriptStep const& step);
+    std::string Compare(ScriptStep const& step);
+    std::string OrderSources(ScriptStep const& step);
     std::string MakeSource(ScriptStep const& step);
     std::string DropSource(ScriptStep const& step);
-    std::string Arm(ScriptStep const& step);
     std::string ThrowText(ScriptStep const& step);
     std::string ThrowString(ScriptStep const& step);
     std::string ThrowException(ScriptStep const& step);
@@ -144,6 +182,52 @@ private:
     std::string BuildItem(ScriptStep const& step);
     std::string UnbuildItem(ScriptStep const& step);
     std::string DeleteRows(ScriptStep const& step);
+    std::string UnsortAll(ScriptStep const& step);
+
+    // RandomScriptPlayer_Columns.cpp
+    zbIBrowserViewColumn* FindColumn(ScriptStep const& step);
+    static std::string PresentationOf(zbIBrowserView& view);
+    std::string MakeColumn(ScriptStep const& step);
+    std::string DropColumn(ScriptStep const& step);
+    std::string ShowColumn(ScriptStep const& step);
+    std::string SetTitle(ScriptStep const& step);
+    std::string MarkUnsorted(ScriptStep const& step);
+    std::string SetSorting(ScriptStep const& step);
+    std::string SetItalicTexts(ScriptStep const& step);
+    std::string Sort(ScriptStep const& step);
+    std::string SetCustomSort(ScriptStep const& step);
+    std::string MakeColumnStyle(ScriptStep const& step);
+    std::string DropColumnStyle(ScriptStep const& step);
+    std::string StyleItem(ScriptStep const& step);
+    std::string StyleSource(ScriptStep const& step);
+    std::string DropElement(ScriptStep const& step);
+    std::string GuiMapDeleted(ScriptStep const& step);
+    std::string Paint(ScriptStep const& step);
+    void PaintCell(zbIBrowserView& view, zbIBrowserViewColumn& column, zbIBrowserViewItem& item);
+    std::string ReadChildren(ScriptStep const& step);
+    std::string SortingException(ScriptStep const& step);
+
+    // RandomScriptPlayer_Properties.cpp
+    zbIBrowserViewProperty* FindProperty(std::string const& view, std::string const& name);
+    std::string MakeProperty(ScriptStep const& step);
+    std::string DropProperty(ScriptStep const& step);
+    std::string ConnectProperty(ScriptStep const& step);
+    std::string DisconnectProperty(ScriptStep const& step);
+    std::string ReadValue(ScriptStep const& step);
+    std::string WriteValue(ScriptStep const& step);
+    std::string ReadForms(ScriptStep const& step);
+    std::string ScriptProperty(ScriptStep const& step);
+
+    // RandomScriptPlayer_Queries.cpp
+    std::string AskSelection(ScriptStep const& step);
+    std::string AskTexts(ScriptStep const& step);
+    std::string AskRowsOf(ScriptStep const& step);
+    std::string KeepManager(ScriptStep const& step);
+    std::string AskManager(ScriptStep const& step);
+    std::string AskView(ScriptStep const& step);
+    std::string CopyView(ScriptStep const& step);
+    std::string Activate(ScriptStep const& step);
+    std::string SelectInPanel(ScriptStep const& step);
 
     // RandomScriptPlayer_Selection.cpp
     std::string Select(ScriptStep const& step);
@@ -151,9 +235,20 @@ private:
     std::string DeselectData(ScriptStep const& step);
     std::string DeselectBelow(ScriptStep const& step);
     std::string SetDropItem(ScriptStep const& step);
+    std::string DeselectRow(ScriptStep const& step);
+    std::string DeselectAll(ScriptStep const& step);
+    std::string ForgetSelection(ScriptStep const& step);
+    std::string TellPrevious(ScriptStep const& step);
+    std::string FinishSelection(ScriptStep const& step);
+    std::string SetSync(ScriptStep const& step);
+    std::string SetNotifier(ScriptStep const& step);
+    std::string Popup(ScriptStep const& step);
+    std::string Edit(ScriptStep const& step);
+    FlatItems ItemsOf(ScriptStep const& step, std::size_t from);
+    std::vector<zbIBrowserViewItem*> RowsOf(zbBrowserView& view, FlatItems const& items);
     //! Makes a change of the selection, which has to come out as expected unless an attack
     //! interferes.
-    void ChangeSelection(ScriptStep const& step, zbBrowserView& view, ItemSet const& expected,
+    void ChangeSelection(ScriptStep const& step, zbIBrowserView& view, ItemSet const& expected,
                          std::function<void()> const& change);
 
     // RandomScriptPlayer_Folders.cpp
@@ -192,7 +287,12 @@ private:
     std::unique_ptr<SignalRecorder> recorder_; // Null while hostile
     std::optional<Oracle> oracle_;
     zbListener<single_threaded> listener_;
+    std::map<std::string, ScriptNotifier> notifiers_; // By view
+    zbIBrowserSelectionManager* keptManager_ =
+        nullptr; // Not owned; perhaps of a view that has gone
     std::vector<Attack> attacks_;
+    std::set<std::string> hooked_; // Host operations
+    std::vector<std::string> notices_;
     std::string wrongSignals_; // And wrong selections
     std::size_t attacksMade_ = 0;
     std::size_t depth_ = 0;        // Attacks that are going on
@@ -202,6 +302,7 @@ private:
     bool isThrowing_ = false;
     bool hasThrown_ = false;
     bool hasMissedEnd_ = false;
+    bool wasAttackedInQuestion_ = false; // Since the step began
 };
 
 } // namespace zbtest

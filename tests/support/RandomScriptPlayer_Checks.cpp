@@ -2,6 +2,7 @@
 // What there is, and whether it is as it should be.
 #include "Dump.h"
 #include "InvariantChecker.h"
+#include "items/new/ViewItemFreeFolder.h"
 #include "items/old/FolderWalk.h"
 #include "items/old/zbBrowserFreeFolderContentHolder.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
@@ -27,29 +28,34 @@ void ForEachFolder(zbBrowserView& view, Visit visit) {
 } // namespace
 
 void ScriptPlayer::CompareViews(std::string& problems) {
-    for (char const* const name : {"v0", "v1"}) {
-        std::string text;
-        if (zbBrowserView* const view = View(name)) {
-            std::vector<zbIBrowserDataSourceSimple*> sources;
-            view->GetDataSourceSimpleList(sources);
-            text = "sources";
-            for (auto const* const source : sources) {
-                text.append(" ").append(source->GetName());
-            }
-            std::vector<zbIBrowserDataSourceHierarchical*> trees;
-            view->GetDataSourceHierarchicalList(trees);
-            text += "\ntrees";
-            for (auto const* const tree : trees) {
-                text.append(" ").append(tree->GetName());
-            }
-            text += "\n" + Dump(*view, &host_.calls);
-        }
+    for (char const* const name : {"v0", "v1", "n0"}) {
+        std::string const text = IsNewView(name) ? StateOfNew(name) : StateOfOld(name);
         std::string const expected = oracle_->State(name);
         if (text != expected) {
             problems.append("expected view ").append(name).append(":\n").append(expected);
             problems.append("view:\n").append(text);
         }
     }
+}
+
+std::string ScriptPlayer::StateOfOld(std::string const& name) {
+    zbBrowserView* const view = View(name);
+    if (view == nullptr) {
+        return "";
+    }
+    std::string text = "sources";
+    std::vector<zbIBrowserDataSourceSimple*> sources;
+    view->GetDataSourceSimpleList(sources);
+    for (auto const* const source : sources) {
+        text.append(" ").append(source->GetName());
+    }
+    std::vector<zbIBrowserDataSourceHierarchical*> trees;
+    view->GetDataSourceHierarchicalList(trees);
+    text += "\ntrees";
+    for (auto const* const tree : trees) {
+        text.append(" ").append(tree->GetName());
+    }
+    return text + "\n" + PresentationOf(*view) + Dump(*view, &host_.calls);
 }
 
 // After a full rebuild a folder shows the items of its lists, each once, and nothing else.
@@ -95,6 +101,7 @@ std::string ScriptPlayer::CheckInvariants() {
     for (std::string const& view : ViewNames()) {
         problems += InvariantChecker(*View(view), hasThrown_).Check();
     }
+    problems += CheckNewViews();
     isQuiet_ = wasQuiet;
     return problems;
 }
@@ -127,6 +134,11 @@ bool ScriptPlayer::IsForbiddenToAsk(zbBrowserView& view) {
     return !copes && HasGhosts(view);
 }
 
+bool ScriptPlayer::ShowsGhosts(ScriptStep const& step) {
+    zbBrowserView* const view = View(step.Arg(1).substr(0, step.Arg(1).find(':')));
+    return view != nullptr && HasGhosts(*view);
+}
+
 void ScriptPlayer::MarkAllForRebuild() {
     for (std::string const& name : data_.Sources()) {
         data_.Source(name)->failing = false;
@@ -155,7 +167,7 @@ std::string ScriptPlayer::Settle() {
 // What there is
 
 std::vector<std::string> ScriptPlayer::ViewNames() {
-    std::vector<zbIBrowserView*> views;
+    std::vector<zbBrowserView*> views;
     host_.Controller().GetViewList(views, nullptr);
     std::vector<std::string> names;
     names.reserve(views.size());
@@ -165,14 +177,25 @@ std::vector<std::string> ScriptPlayer::ViewNames() {
     return names;
 }
 
+zbIBrowserView* ScriptPlayer::AnyView(std::string const& name) {
+    return host_.Controller().FindView(name.c_str());
+}
+
 zbBrowserView* ScriptPlayer::View(std::string const& name) {
     return host_.Controller().OLD_FindView(name.c_str());
+}
+
+zbbrowser::View* ScriptPlayer::NewView(std::string const& name) {
+    return host_.Controller().FindNewView(name.c_str());
 }
 
 std::vector<std::string> ScriptPlayer::FolderNames(std::string const& view) {
     std::vector<std::string> names;
     if (zbBrowserView* const found = View(view)) {
         ForEachFolder(*found, [&](Folder& folder) { names.push_back(NameOf(&folder)); });
+    }
+    for (auto const* const folder : NewFolders(view)) {
+        names.push_back(NameOf(folder));
     }
     return names;
 }
@@ -213,6 +236,23 @@ ScriptPlayer::Folder* ScriptPlayer::FindFolder(std::string const& place, zbBrows
         }
     });
     return first;
+}
+
+zbIBrowserViewItemFreeFolder* ScriptPlayer::FindAnyFolder(std::string const& place,
+                                                          zbIBrowserView** view) {
+    auto const colon = place.find(':');
+    if (view != nullptr) {
+        *view = AnyView(place.substr(0, colon));
+    }
+    if (!IsNewView(place)) {
+        return FindFolder(place);
+    }
+    for (auto* const folder : NewFolders(place.substr(0, colon))) {
+        if (colon != std::string::npos && NameOf(folder) == place.substr(colon + 1)) {
+            return folder;
+        }
+    }
+    return nullptr;
 }
 
 zbIBrowserViewItem* ScriptPlayer::FindRow(std::string const& place, std::string const& row) {

@@ -30,6 +30,9 @@ std::map<std::string, ScriptPlayer::Handler> const& ScriptPlayer::DataHandlers()
         {"mark", &ScriptPlayer::MarkSource},
         {"mark-tree", &ScriptPlayer::MarkTree},
         {"fail", &ScriptPlayer::Fail},
+        {"value", &ScriptPlayer::SetValue},
+        {"compares", &ScriptPlayer::Compare},
+        {"order-sources", &ScriptPlayer::OrderSources},
         {"source", &ScriptPlayer::MakeSource},
         {"drop-source", &ScriptPlayer::DropSource},
         {"on", &ScriptPlayer::Arm},
@@ -151,6 +154,35 @@ std::string ScriptPlayer::Fail(ScriptStep const& step) {
     return "";
 }
 
+std::string ScriptPlayer::SetValue(ScriptStep const& step) {
+    RecordingItem* const item = data_.Item(step.Arg(1), step.Arg(2));
+    if (item == nullptr) {
+        return "skip";
+    }
+    item->Set("rank", std::atoi(step.Arg(3).c_str()));
+    return "";
+}
+
+std::string ScriptPlayer::Compare(ScriptStep const& step) {
+    RecordingSource* const source = data_.Source(step.Arg(1));
+    if (source == nullptr) {
+        return "skip";
+    }
+    source->compares = step.Flag(2);
+    return "";
+}
+
+//! The order of the sources that the step names; the data control knows none of the others.
+std::string ScriptPlayer::OrderSources(ScriptStep const& step) {
+    auto& order = data_.Control("data")->sourceOrder;
+    order.clear();
+    for (std::size_t i = 1; i < step.Count(); ++i) {
+        order.push_back(data_.Source(step.Arg(i)));
+    }
+    std::erase(order, nullptr);
+    return "";
+}
+
 std::string ScriptPlayer::MakeSource(ScriptStep const& step) {
     return ScriptData::MayGo(step.Arg(1)) && data_.MakeSource(step.Arg(1)) ? "" : "skip";
 }
@@ -164,20 +196,16 @@ std::string ScriptPlayer::DropSource(ScriptStep const& step) {
         Perform(ScriptStep::Of("drop-list-everywhere", view + ":/", step.Arg(1)));
         Perform(ScriptStep::Of("disconnect", view, step.Arg(1)));
     }
+    for (char const* const view : {"v0", "v1", "n0"}) {
+        for (char const* const property : {"p0", "p1", "default_name_prop"}) {
+            Perform(ScriptStep::Of("disconnect-property", view, property, step.Arg(1)));
+        }
+    }
     RecordingSource const* const source = data_.Source(step.Arg(1));
     if (source == nullptr || hostCalls_ > 0 || IsUsed(*source)) {
         return "skip";
     }
     data_.FreeSource(step.Arg(1));
-    return "";
-}
-
-std::string ScriptPlayer::Arm(ScriptStep const& step) {
-    std::size_t const left = std::strtoul(step.Arg(2).c_str(), nullptr, 10);
-    if (left == 0) {
-        return "skip";
-    }
-    attacks_.push_back({step.Arg(1), left, step.Rest(3)});
     return "";
 }
 

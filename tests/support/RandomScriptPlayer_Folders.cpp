@@ -52,8 +52,8 @@ std::map<std::string, ScriptPlayer::Handler> const& ScriptPlayer::FolderHandlers
 }
 
 std::string ScriptPlayer::MakeFolder(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder const* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto const* const folder = FindAnyFolder(step.Arg(1), &view);
     if (folder == nullptr) {
         return "skip";
     }
@@ -61,8 +61,8 @@ std::string ScriptPlayer::MakeFolder(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::DeleteFolder(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     return folder == nullptr ? "skip" : Answer(view->DeleteFreeFolder(folder, step.Flag(2)));
 }
 
@@ -109,8 +109,8 @@ std::string ScriptPlayer::DropTree(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::GroupLeaves(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     return folder == nullptr ? "skip" : Answer(view->SetFreeFolderGroupLeafs(folder, step.Flag(2)));
 }
 
@@ -136,26 +136,27 @@ std::string ScriptPlayer::GroupType(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::SetEmptyContainers(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     if (folder == nullptr) {
         return "skip";
     }
     bool const isDone = view->SetFreeFolderShowEmptyContainers(folder, step.Flag(2));
-    return isDone || !IsCalm() ? "true" : std::string("false ") + view->GetError();
+    return isDone || !IsCalm() ? "true"
+                               : std::string("false ") + View(view->GetName().c_str())->GetError();
 }
 
 // Marks
 
 std::string ScriptPlayer::SetStyle(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     return folder == nullptr ? "skip" : Answer(view->SetFreeFolderStyle(folder, step.Flag(2)));
 }
 
 std::string ScriptPlayer::SetKeepOrder(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     if (folder == nullptr) {
         return "skip";
     }
@@ -173,7 +174,7 @@ std::string ScriptPlayer::SetCaption(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::SetBold(ScriptStep const& step) {
-    Folder* const folder = FindFolder(step.Arg(1));
+    auto* const folder = FindAnyFolder(step.Arg(1));
     if (folder == nullptr) {
         return "skip";
     }
@@ -182,7 +183,7 @@ std::string ScriptPlayer::SetBold(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::SetItalic(ScriptStep const& step) {
-    Folder* const folder = FindFolder(step.Arg(1));
+    auto* const folder = FindAnyFolder(step.Arg(1));
     if (folder == nullptr) {
         return "skip";
     }
@@ -191,7 +192,7 @@ std::string ScriptPlayer::SetItalic(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::SetIcon(ScriptStep const& step) {
-    Folder* const folder = FindFolder(step.Arg(1));
+    auto* const folder = FindAnyFolder(step.Arg(1));
     if (folder == nullptr) {
         return "skip";
     }
@@ -200,7 +201,7 @@ std::string ScriptPlayer::SetIcon(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::SetCount(ScriptStep const& step) {
-    Folder* const folder = FindFolder(step.Arg(1));
+    auto* const folder = FindAnyFolder(step.Arg(1));
     if (folder == nullptr) {
         return "skip";
     }
@@ -209,7 +210,7 @@ std::string ScriptPlayer::SetCount(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::SetShowsWhenEmpty(ScriptStep const& step) {
-    Folder* const folder = FindFolder(step.Arg(1));
+    auto* const folder = FindAnyFolder(step.Arg(1));
     if (folder == nullptr) {
         return "skip";
     }
@@ -218,22 +219,22 @@ std::string ScriptPlayer::SetShowsWhenEmpty(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::CanBeShown(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     return folder == nullptr ? "skip" : Answer(view->IsEmptyFolderCanBeShown(folder));
 }
 
 // Expansion
 
 std::string ScriptPlayer::Expand(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     return folder == nullptr ? "skip" : Answer(view->ExpandFreeFolder(folder, step.Flag(2)));
 }
 
 std::string ScriptPlayer::Collapse(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto* const folder = FindAnyFolder(step.Arg(1), &view);
     return folder == nullptr ? "skip" : Answer(view->CollapseFreeFolder(folder, step.Flag(2)));
 }
 
@@ -288,7 +289,7 @@ std::string ScriptPlayer::HideFolder(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::ShowFolder(ScriptStep const& step) {
-    Folder* const folder = FindFolder(step.Arg(1));
+    auto* const folder = FindAnyFolder(step.Arg(1));
     if (folder == nullptr) {
         return "skip";
     }
@@ -297,8 +298,8 @@ std::string ScriptPlayer::ShowFolder(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::Path(ScriptStep const& step) {
-    zbBrowserView* view = nullptr;
-    Folder const* const folder = FindFolder(step.Arg(1), &view);
+    zbIBrowserView* view = nullptr;
+    auto const* const folder = FindAnyFolder(step.Arg(1), &view);
     if (folder == nullptr) {
         return "skip";
     }

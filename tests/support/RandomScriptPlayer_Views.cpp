@@ -3,6 +3,7 @@
 #include "items/old/zbBrowserViewItemFreeFolder.h"
 #include "RandomScriptPlayer.h"
 
+#include <zbBrowserView/View.h>
 #include <zbBrowserView/zbBrowserView.h>
 
 namespace zbtest {
@@ -40,21 +41,25 @@ std::map<std::string, ScriptPlayer::Handler> const& ScriptPlayer::ViewHandlers()
         {"build-item", &ScriptPlayer::BuildItem},
         {"unbuild-item", &ScriptPlayer::UnbuildItem},
         {"delete-rows", &ScriptPlayer::DeleteRows},
+        {"unsort-all", &ScriptPlayer::UnsortAll},
+        {"copy-view", &ScriptPlayer::CopyView},
+        {"lock", &ScriptPlayer::Lock},
     };
     return handlers;
 }
 
 std::string ScriptPlayer::MakeView(ScriptStep const& step) {
-    return Answer(RecordingManager::CreateView(host_.Controller(), step.Arg(1).c_str(), false));
+    bool const isNew = IsNewView(step.Arg(1));
+    return Answer(RecordingManager::CreateView(host_.Controller(), step.Arg(1).c_str(), isNew));
 }
 
 std::string ScriptPlayer::DeleteView(ScriptStep const& step) {
-    zbBrowserView* const view = View(step.Arg(1));
+    zbIBrowserView* const view = AnyView(step.Arg(1));
     return view == nullptr ? "skip" : Answer(host_.DeleteView(*view));
 }
 
 std::string ScriptPlayer::SetControl(ScriptStep const& step) {
-    zbBrowserView* const view = View(step.Arg(1));
+    zbIBrowserView* const view = AnyView(step.Arg(1));
     if (view == nullptr) {
         return "skip";
     }
@@ -80,12 +85,12 @@ std::string ScriptPlayer::ConnectTree(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::Disconnect(ScriptStep const& step) {
-    zbBrowserView* const view = View(step.Arg(1));
+    zbIBrowserView* const view = AnyView(step.Arg(1));
     return view == nullptr ? "skip" : Answer(view->DataSourceDisconnect(step.Arg(2).c_str()));
 }
 
 std::string ScriptPlayer::DisconnectAll(ScriptStep const& step) {
-    zbBrowserView* const view = View(step.Arg(1));
+    zbIBrowserView* const view = AnyView(step.Arg(1));
     return view == nullptr ? "skip" : Answer(view->DataSourceDisconnectAll(step.Flag(2)));
 }
 
@@ -99,7 +104,7 @@ std::string ScriptPlayer::DropListEverywhere(ScriptStep const& step) {
 }
 
 std::string ScriptPlayer::ShowEmptyFolders(ScriptStep const& step) {
-    zbBrowserView* const view = View(step.Arg(1));
+    zbIBrowserView* const view = AnyView(step.Arg(1));
     if (view == nullptr) {
         return "skip";
     }
@@ -244,6 +249,16 @@ std::string ScriptPlayer::DeleteRows(ScriptStep const& step) {
     }
     view->DeleteViewItemList(items, step.Flag(2));
     return items.empty() ? "" : "some items are left in the list";
+}
+
+std::string ScriptPlayer::UnsortAll(ScriptStep const& step) {
+    zbBrowserView* const view = View(step.Arg(1));
+    zbbrowser::View* const newView = NewView(step.Arg(1));
+    if (view == nullptr && newView == nullptr) {
+        return "skip";
+    }
+    view != nullptr ? view->SetAllDataItemListsUnsorted() : newView->SetAllDataItemListsUnsorted();
+    return "";
 }
 
 } // namespace zbtest

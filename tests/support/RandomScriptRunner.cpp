@@ -9,8 +9,8 @@ namespace zbtest {
 
 namespace {
 
-constexpr std::size_t shortestScript = 30;
-constexpr std::size_t spreadOfLength = 60;
+constexpr std::size_t shortestScript = 50;
+constexpr std::size_t spreadOfLength = 150;
 constexpr std::size_t stepsAfterAThrow = 4;
 
 ScriptPlayer::Mode ModeOf(Script const& script) {
@@ -23,6 +23,7 @@ ScriptPlayer::Mode ModeOf(Script const& script) {
 std::string RandomScriptRunner::Run(std::size_t steps) {
     for (std::uint64_t seed = seed_; steps_ < steps; ++seed) {
         Played const played = PlayRandom(seed);
+        afterEachScript_();
         if (played.problem.empty()) {
             continue;
         }
@@ -47,7 +48,7 @@ RandomScriptRunner::Played RandomScriptRunner::PlayRandom(std::uint64_t seed) {
 
     ScriptPlayer player(isCalm ? ScriptPlayer::Mode::Calm : ScriptPlayer::Mode::Hostile);
     ScriptGenerator generator(player, numbers.Next());
-    Script next = ScriptGenerator::Prologue();
+    Script next = generator.Prologue();
     std::size_t left = length;
     while (played.problem.empty() && left > 0) {
         for (ScriptStep const& step : next) {

@@ -5,6 +5,7 @@
 
 #include "RandomScript.h"
 
+#include <functional>
 #include <string>
 
 namespace zbtest {
@@ -20,6 +21,9 @@ public:
 
     //! Each script is written to this file while it is played, so that it is there after a crash.
     void KeepJournal(std::string file) { journal_ = std::move(file); }
+
+    //! Is called between two scripts.
+    void AfterEachScript(std::function<void()> call) { afterEachScript_ = std::move(call); }
 
     //! Takes at least that many steps. The result tells what failed, with the script; empty if
     //! nothing did.
@@ -41,6 +45,7 @@ private:
 
     std::uint64_t const seed_;
     std::string journal_;
+    std::function<void()> afterEachScript_ = [] {};
     std::size_t steps_ = 0;
     std::size_t scripts_ = 0;
 };

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "RecordingHost.h"
 
+#include "AllocationFailures.h"
+
 #include <zbBrowserView/zbIBrowserView.h>
 
+#include <algorithm>
+#include <new>
 #include <stdexcept>
 
 namespace zbtest {
@@ -18,6 +22,11 @@ RecordingHost::RecordingHost()
 }
 
 RecordingHost::~RecordingHost() {
+    MemoryIsBack const memory;
+    if (AllocationFailures::HasFailed() && checkAfterFailure != nullptr && controller_ != nullptr &&
+        isCheckedAfterFailure) {
+        checkAfterFailure(*this);
+    }
     DeleteController();
 }
 
@@ -36,6 +45,9 @@ void RecordingHost::DeleteControl(std::string const& name) {
 zbBrowserViewCtrl& RecordingHost::Controller() {
     if (controller_ == nullptr) {
         controller_.reset(CreateBrowserViewCtrl(&manager));
+        if (controller_ == nullptr) {
+            throw std::bad_alloc();
+        }
     }
     return *controller_;
 }
@@ -70,6 +82,11 @@ zbbrowser::View& RecordingHost::NewView(char const* name) {
         Controller().FindView(name)->SetDataCtrl(&Control());
     }
     return *Controller().FindNewView(name);
+}
+
+bool RecordingHost::Owns(zbIBrowserDataSource const* source) const {
+    return std::any_of(controls_.begin(), controls_.end(),
+                       [&](auto const& control) { return control.second->Owns(source); });
 }
 
 bool RecordingHost::DeleteView(zbIBrowserView& view) {

@@ -60,6 +60,14 @@ public:
     zbbrowser::View& NewView(char const* name = "view");
     bool DeleteView(zbIBrowserView& view);
 
+    //! It is a source or tree of this host. The pointer is compared and not followed.
+    [[nodiscard]] bool Owns(zbIBrowserDataSource const* source) const;
+
+    //! False: the test breaks on purpose what is looked at there.
+    bool isCheckedAfterFailure = true;
+    //! Called at the end of a host for which an allocation has failed on purpose. May be null.
+    static inline void (*checkAfterFailure)(RecordingHost& host) = nullptr;
+
 private:
     std::map<std::string, std::unique_ptr<RecordingDataCtrl>> controls_;
     std::unique_ptr<zbBrowserViewCtrl> controller_;

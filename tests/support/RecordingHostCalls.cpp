@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecordingHostCalls.h"
 
+#include "AllocationFailures.h"
+
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -8,6 +10,7 @@
 namespace zbtest {
 
 RecordingHostCalls::~RecordingHostCalls() {
+    MemoryIsBack const memory;
     for (Key const& key : unreached_) {
         ADD_FAILURE() << "hook never reached: " << key.operation
                       << (key.object.empty() ? "" : " of ") << key.object;
@@ -40,13 +43,15 @@ std::size_t RecordingHostCalls::Count(std::string_view operation, std::string_vi
 }
 
 void RecordingHostCalls::On(std::string const& operation, std::string const& object, Hook hook) {
-    Key const key{operation, object};
-    hooks_[key] = std::move(hook);
-    unreached_.insert(key);
+    hooks_[operation][object] = std::move(hook);
+    unreached_.insert({operation, object});
 }
 
 void RecordingHostCalls::Off(std::string const& operation, std::string const& object) {
-    hooks_.erase(Key{operation, object});
+    auto const hooks = hooks_.find(operation);
+    if (hooks != hooks_.end()) {
+        hooks->second.erase(object);
+    }
 }
 
 void RecordingHostCalls::Called(char const* operation, std::string_view object,
@@ -87,20 +92,21 @@ void RecordingHostCalls::CountAndRunHooks(char const* operation, std::string_vie
             objects.emplace(object, 1);
         }
     }
-    if (hooks_.empty()) {
-        return;
+    auto const hooks = hooks_.find(operation);
+    if (hooks != hooks_.end()) {
+        std::string const name(object); // A hook may be the end of the other one
+        RunHook(hooks->first, "");
+        RunHook(hooks->first, name);
     }
-    std::string const name(object);
-    RunHook({operation, ""});
-    RunHook({operation, name});
 }
 
-void RecordingHostCalls::RunHook(Key const& key) {
-    auto const found = hooks_.find(key);
-    if (found == hooks_.end()) {
+void RecordingHostCalls::RunHook(std::string const& operation, std::string const& object) {
+    auto const& hooks = hooks_.at(operation);
+    auto const found = hooks.find(object);
+    if (found == hooks.end()) {
         return;
     }
-    unreached_.erase(key);
+    unreached_.erase({operation, object});
     Hook const hook = found->second; // A copy: the hook may remove itself.
     hook();
 }

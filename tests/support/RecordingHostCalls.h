@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace zbtest {
@@ -23,6 +24,7 @@ namespace zbtest {
 class RecordingHostCalls {
 public:
     using Hook = std::function<void()>;
+    using Hooks = std::map<std::string, std::map<std::string, Hook>, std::less<>>; //!< By names
 
     RecordingHostCalls() = default;
     RecordingHostCalls(RecordingHostCalls const&) = delete;
@@ -49,6 +51,11 @@ public:
     void On(std::string const& operation, std::string const& object, Hook hook);
     void Off(std::string const& operation, std::string const& object = "");
 
+    //! Puts other hooks in the place of all that are set, and answers those.
+    [[nodiscard]] Hooks ExchangeHooks(Hooks hooks) {
+        return std::exchange(hooks_, std::move(hooks));
+    }
+
     //! Called by the host objects. `arguments` come behind the line, separated by blanks.
     void Called(char const* operation, std::string_view object,
                 std::initializer_list<std::string_view> arguments = {});
@@ -70,14 +77,14 @@ private:
     };
 
     void CountAndRunHooks(char const* operation, std::string_view object);
-    void RunHook(Key const& key);
+    void RunHook(std::string const& operation, std::string const& object);
 
     bool recording_ = false;
     bool recordingReaders_ = false;
     bool counting_ = true;
     std::vector<std::string> lines_;
     std::map<std::string, std::map<std::string, std::size_t, std::less<>>, std::less<>> counts_;
-    std::map<Key, Hook> hooks_;
+    Hooks hooks_;
     std::set<Key> unreached_;
     std::unordered_map<void const*, std::string> names_;
 };

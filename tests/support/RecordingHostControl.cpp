@@ -132,6 +132,12 @@ void RecordingDataCtrl::DeleteSource(std::string const& name) {
     sources_.erase(name);
 }
 
+bool RecordingDataCtrl::Owns(zbIBrowserDataSource const* source) const {
+    auto const isIt = [source](auto const& entry) { return entry.second.get() == source; };
+    return std::any_of(sources_.begin(), sources_.end(), isIt) ||
+           std::any_of(trees_.begin(), trees_.end(), isIt);
+}
+
 void RecordingDataCtrl::DeleteTree(std::string const& name) {
     trees_.erase(name);
 }

@@ -116,6 +116,8 @@ public:
                 bool reported = false);
 
     [[nodiscard]] std::string const& Name() const { return name_; }
+    //! It is a source or tree of this control. The pointer is compared and not followed.
+    [[nodiscard]] bool Owns(zbIBrowserDataSource const* source) const;
 
     bool knowsSources = true; //!< False: no source is found by name.
     bool selectionForwardingBlocked = false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SignalRecorder.h"
 
+#include "AllocationFailures.h"
 #include "RecordingHost.h"
 #include "ViewItemNames.h"
 
@@ -36,6 +37,7 @@ SignalRecorder::~SignalRecorder() {
     if (lines_.empty()) {
         return;
     }
+    MemoryIsBack const memory;
     std::string unread;
     for (std::string const& line : lines_) {
         unread.append("\n  ").append(line);

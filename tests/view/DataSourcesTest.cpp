@@ -325,4 +325,18 @@ TEST_F(DataSourcesTest, ADisconnectedSourceCanBeConnectedAgain) {
     EXPECT_EQ(Rows(Root()), (Names{"bolt_1"}));
 }
 
+TEST_F(DataSourcesTest, AFolderMayBeDeletedWhileTheTreeThatIsLookedForIsAskedForItsName) {
+    auto& tree = ConnectedTree("assembly");
+    auto& folder = Folder("a");
+    EXPECT_TRUE(view.CreateTree(&folder, &tree));
+    host.calls.On("GetName", "assembly", [&] {
+        host.calls.Off("GetName", "assembly");
+        view.DeleteFreeFolder(&folder, true);
+    });
+
+    EXPECT_EQ(view.FindTree(&folder, &tree), nullptr);
+
+    signals.Discard();
+}
+
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "items/new/ViewItemFreeFolder.h"
 
+#include "containers/MakeRoom.h"
 #include "filtersort/SortHandlerBase.h"
 #include "view/NewViewContext.h"
 
@@ -22,14 +23,19 @@ ViewItemFreeFolder::ViewItemFreeFolder(detail::NewViewContext& context, ViewItem
     context_.RegisterFolder(*this);
 }
 
-// Takes the folders below apart level by level, so that none is destroyed with folders in it.
+// The folders below go one by one, the innermost first. That takes neither recursion nor memory: on
+// the way down the place of the parent, which nobody reads any more, says where the way came from.
 ViewItemFreeFolder::~ViewItemFreeFolder() {
-    auto below = std::move(children_);
-    while (!below.empty()) {
-        auto const folder = std::move(below.back());
-        below.pop_back();
-        std::move(folder->children_.begin(), folder->children_.end(), std::back_inserter(below));
-        folder->children_.clear();
+    auto* folder = this;
+    while (folder != this || !children_.empty()) {
+        if (folder->children_.empty()) {
+            folder = static_cast<ViewItemFreeFolder*>(folder->parent_);
+            folder->children_.pop_back();
+            continue;
+        }
+        auto* const below = folder->children_.back().get();
+        below->parent_ = folder;
+        folder = below;
     }
     context_.UnregisterFolder(*this);
 }
@@ -86,9 +92,11 @@ zbIBrowserViewItemFreeFolder* ViewItemFreeFolder::FindChildFreeFolder(zbString c
 void ViewItemFreeFolder::CreateChild(zbString const& name) {
     if (FindChildFreeFolder(name) != nullptr)
         throw "Child Free Folder with supplied name already exists in parent";
-    auto& child =
-        *children_.emplace_back(std::make_unique<ViewItemFreeFolder>(context_, this, name));
+    detail::MakeRoom(children_);
+    auto made = std::make_unique<ViewItemFreeFolder>(context_, this, name);
+    auto& child = *made;
     childByName_.emplace(child.GetName(), &child);
+    children_.push_back(std::move(made));
     childrenSorted_ = false;
     context_.Raise(&zbBrowserSignalManager::ViewItemCreated, &child);
     context_.Raise(&zbBrowserSignalManager::FreeFolderCreated, this);

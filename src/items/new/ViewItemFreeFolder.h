@@ -3,6 +3,8 @@
 //! A folder of a new view.
 #pragma once
 
+#include "view/ViewLifetime.h"
+
 #include <zbBrowserView/zbIBrowserView.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
 
@@ -20,7 +22,7 @@ class NewViewContext;
 //! folders. What it shows is not built yet, so it is without content.
 //!
 //! Names of siblings differ in more than case.
-class ViewItemFreeFolder : public zbIBrowserViewItemFreeFolder {
+class ViewItemFreeFolder : public zbIBrowserViewItemFreeFolder, public detail::Retirable {
 public:
     //! \param parent null for the root only
     ViewItemFreeFolder(detail::NewViewContext& context, ViewItemFreeFolder* parent, zbString name,

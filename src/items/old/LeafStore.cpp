@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <bit>
 #include <iterator>
+#include <new>
 
 namespace zbbrowser::detail {
 
@@ -15,6 +16,18 @@ LeafStore::Leaf* LeafStore::Find(zbIBrowserDataItemSimple const* item) const {
     auto const slot =
         index_.Find(item, [&](Slot candidate) { return slots_[candidate]->dataItem_ == item; });
     return slot == PointerIndex::none ? nullptr : slots_[slot];
+}
+
+// What is needed one after the other is asked for one after the other, each for a later item.
+void LeafStore::PrefetchFind(std::vector<zbIBrowserDataItemSimple*> const& items,
+                             std::size_t i) const {
+    if (i + 3 * prefetchDistance >= items.size())
+        return;
+    index_.Prefetch(items[i + 3 * prefetchDistance]);
+    if (auto const slot = index_.Guess(items[i + 2 * prefetchDistance]); slot != PointerIndex::none)
+        Prefetch(&slots_[slot]);
+    if (auto const slot = index_.Guess(items[i + prefetchDistance]); slot != PointerIndex::none)
+        Prefetch(slots_[slot]);
 }
 
 void LeafStore::Reserve(std::size_t count) {
@@ -41,7 +54,7 @@ void LeafStore::Append(Leaf& leaf, zbIBrowserDataSource const* source) {
         NoteHidden(true);
 }
 
-void LeafStore::Take(Leaf& leaf) {
+void LeafStore::Take(Leaf& leaf) noexcept {
     auto& source = sources_[leaf.sourceNumber_];
     if (--source.count == 0) {
         source.runs.clear();
@@ -59,7 +72,7 @@ void LeafStore::Take(Leaf& leaf) {
         Compact();
 }
 
-void LeafStore::Take(std::vector<Leaf*> const& leaves) {
+void LeafStore::Take(std::vector<Leaf*> const& leaves) noexcept {
     if (leaves.size() == Count()) {
         Clear();
         return;
@@ -169,8 +182,7 @@ LeafStore::FindAll(std::vector<zbIBrowserDataItemSimple*> const& items) const {
     std::vector<Slot> slots;
     slots.reserve(items.size());
     for (std::size_t i = 0; i < items.size(); ++i) {
-        if (i + prefetchDistance < items.size())
-            PrefetchFind(items[i + prefetchDistance]);
+        PrefetchFind(items, i);
         if (auto const* const leaf = Find(items[i]); leaf != nullptr)
             slots.push_back(leaf->slot_);
     }
@@ -207,9 +219,11 @@ void LeafStore::ExtendRuns(Source& source, Slot slot) {
     source.runs.back().last = slot + 1;
 }
 
-void LeafStore::Compact() {
+// Without the memory for it the holes stay until the next leaf goes.
+void LeafStore::Compact() noexcept try {
     constexpr Slot gone = ~Slot{0};
     std::vector<Slot> newSlot(slots_.Slots().size(), gone);
+    auto sources = SourcesInOrder(slots_.Slots());
     Slot ordered = 0;
     slots_.Compact([&](Leaf& leaf, Slot from, Slot to) {
         newSlot[from] = to;
@@ -222,16 +236,9 @@ void LeafStore::Compact() {
         slot = newSlot[slot];
     std::erase(loose_, gone);
     index_.Renumber(newSlot);
-    RebuildRuns();
-}
-
-void LeafStore::RebuildRuns() {
-    for (auto& source : sources_) {
-        source.runs.clear();
-        source.isMixed = false;
-    }
-    for (auto* const leaf : slots_.Slots())
-        ExtendRuns(sources_[leaf->sourceNumber_], leaf->slot_);
+    sources_ = std::move(sources);
+} catch (std::bad_alloc const&) {
+    return;
 }
 
 // No leaf is looked at: in the order of a sort they lie all over the memory.
@@ -265,16 +272,26 @@ void LeafStore::AppendSlots(Slot from, Slot to, std::vector<zbIBrowserViewItem*>
 void LeafStore::ForgetOrder() {
     orderedEnd_ = 0;
     loose_.clear();
+    hasLost_ = false;
     ++changes_;
 }
 
-void LeafStore::ForgetOrder(Leaf const& leaf) {
+void LeafStore::ForgetOrder(Leaf const& leaf) noexcept {
+    if (leaf.slot_ >= orderedEnd_)
+        return;
+    NoteChanged(leaf);
+    hasLost_ = true;
+    ++changes_;
+}
+
+void LeafStore::NoteChanged(Leaf const& leaf) noexcept try {
     if (leaf.slot_ >= orderedEnd_)
         return;
     if (loose_.size() >= 2 * std::size_t{orderedEnd_})
         SortUnique(loose_); // Many came more than once
     loose_.push_back(leaf.slot_);
-    ++changes_;
+} catch (std::bad_alloc const&) {
+    ForgetOrder();
 }
 
 // Leaves lie all over the memory in any order but that of their creation, so they are fetched some
@@ -294,19 +311,22 @@ void LeafStore::Reorder(std::vector<zbIBrowserViewItem*> const& order) {
     sources_ = std::move(sources);
     orderedEnd_ = static_cast<Slot>(order.size());
     loose_.clear();
+    hasLost_ = false;
     ++changes_;
 }
 
 // With one source there is nothing to ask the leaves for.
-std::vector<LeafStore::Source>
-LeafStore::SourcesInOrder(std::vector<zbIBrowserViewItem*> const& order) const {
+template <class Item>
+std::vector<LeafStore::Source> LeafStore::SourcesInOrder(std::vector<Item*> const& order) const {
     std::vector<Source> sources(sources_.size());
     if (sources.size() == 1) {
-        sources.front() = {{{0, static_cast<Slot>(order.size())}}, order.size()};
+        sources.front() = {{{0, static_cast<Slot>(Count())}}, Count()};
         return sources;
     }
     Slot slot = 0;
     for (auto const* const item : order) {
+        if (item == nullptr)
+            continue;
         auto& source = sources[static_cast<Leaf const*>(item)->sourceNumber_];
         ExtendRuns(source, slot++);
         ++source.count;

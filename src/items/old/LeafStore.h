@@ -36,6 +36,8 @@ public:
     //! The leaf of a data item; null if there is none or the index is out of step.
     Leaf* Find(zbIBrowserDataItemSimple const* item) const;
     void PrefetchFind(zbIBrowserDataItemSimple const* item) const { index_.Prefetch(item); }
+    //! For a loop that is at `i` and finds most of the items.
+    void PrefetchFind(std::vector<zbIBrowserDataItemSimple*> const& items, std::size_t i) const;
 
     //! Makes room for `count` further leaves.
     void Reserve(std::size_t count);
@@ -45,10 +47,10 @@ public:
     void Append(Leaf& leaf, zbIBrowserDataSource const* source);
 
     //! Takes one leaf out. Requires: it is listed here.
-    void Take(Leaf& leaf);
+    void Take(Leaf& leaf) noexcept;
 
     //! Takes several leaves out. Requires: they are distinct and listed here.
-    void Take(std::vector<Leaf*> const& leaves);
+    void Take(std::vector<Leaf*> const& leaves) noexcept;
 
     //! Requires: `visit` changes nothing here; it may free the leaf if the store goes next.
     template <class Visit>
@@ -78,8 +80,9 @@ public:
     //! comes after that stands behind them.
     //! \{
     //! All are as Reorder left them, or there are none.
-    bool IsOrdered() const { return orderedEnd_ == slots_.Slots().size() && loose_.empty(); }
-    //! Those that are as Reorder left them, then the others. Answers how many the former are.
+    bool IsOrdered() const { return orderedEnd_ == slots_.Slots().size() && !hasLost_; }
+    //! Those that are as Reorder left them and are not known to have changed, then the others.
+    //! Answers how many the former are.
     std::size_t AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out);
     //! Puts the leaves into this order. O(leaves).
     //! Requires: `order` holds the leaves of this store and nothing else.
@@ -87,8 +90,12 @@ public:
     void Reorder(std::vector<zbIBrowserViewItem*> const& order);
     //! From now on the leaves count as not ordered. They stay where they are.
     void ForgetOrder();
-    //! The same for one leaf, as often as one likes. Amortized O(1).
-    void ForgetOrder(Leaf const& leaf);
+    //! The same for one leaf, as often as one likes. Amortized O(1). Without the memory for one it
+    //! is done for all.
+    void ForgetOrder(Leaf const& leaf) noexcept;
+    //! What a leaf is ordered by may have changed. It still counts as ordered, but
+    //! AppendOrderedFirst gives it among the others. Amortized O(1).
+    void NoteChanged(Leaf const& leaf) noexcept;
     //! Changes with each leaf that comes or goes and with each new or lost order.
     std::size_t ChangeNumber() const { return changes_; }
     //! \}
@@ -121,9 +128,10 @@ private:
     void SortUnique(std::vector<Slot>& slots) const;
     void AppendSlots(Slot from, Slot to, std::vector<zbIBrowserViewItem*>& out) const;
     void Clear();
-    void Compact();
-    void RebuildRuns();
-    std::vector<Source> SourcesInOrder(std::vector<zbIBrowserViewItem*> const& order) const;
+    void Compact() noexcept;
+    //! What sources_ will be when the leaves stand in this order; null stands for none.
+    template <class Item>
+    std::vector<Source> SourcesInOrder(std::vector<Item*> const& order) const;
     static void ExtendRuns(Source& source, Slot slot);
 
     SlotVector<Leaf*> slots_;
@@ -134,7 +142,9 @@ private:
     std::uint32_t lastNumber_ = 0;
     std::size_t hidden_ = 0;
     Slot orderedEnd_ = 0;     // The slots before it are as Reorder left them
-    std::vector<Slot> loose_; // Slots before it that are not; some may be empty or come twice
+    std::vector<Slot> loose_; // Slots before it that are not, or whose leaves have changed; some
+                              // may be empty or come twice
+    bool hasLost_ = false;    // Some of them are not
     std::size_t changes_ = 0;
 };
 

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <new>
 
 using zbbrowser::detail::BeginLongOperation;
 using zbbrowser::detail::DetachedLeaves;
@@ -99,6 +100,9 @@ void zbBrowserFreeFolderContent::GetAllViewItems(Items&, bool) const {
 bool zbBrowserFreeFolderContent::GetShowEmptyGroups() const {
     return false;
 }
+bool zbBrowserFreeFolderContent::HasRowsOf(Simple const*) const {
+    return false;
+}
 bool zbBrowserFreeFolderContent::HasVisibleItems() const {
     return false;
 }
@@ -183,10 +187,20 @@ bool zbBrowserFreeFolderContent::AddLists(std::vector<Simple*> const& sources) {
                        [this](Simple* source) { return IsAlive() && AddList(source); });
 }
 
+// Where there is no memory to take the rows out, the list comes back behind the others, so that it
+// can be removed later.
 bool zbBrowserFreeFolderContent::RemoveList(Simple* source) {
+    lists_.Reserve(1);
     if (!lists_.Remove(source))
         return false;
-    auto const disconnected = DisconnectList(source, false);
+    bool disconnected = false;
+    try {
+        disconnected = DisconnectList(source, false);
+    } catch (std::bad_alloc const&) {
+        if (IsAlive() && HasRowsOf(source))
+            lists_.Add(source);
+        throw;
+    }
     if (IsAlive() && !holder_.IsConcernedWith(source))
         Context().Folders().Remove(source, Folder());
     if (disconnected)

@@ -89,6 +89,7 @@ public:
                                     zbIBrowserDataItemHierarchical* newParent);
     virtual void GetAllViewItems(Items& out, bool recursive) const;
     virtual bool GetShowEmptyGroups() const;
+    virtual bool HasRowsOf(Simple const* source) const;
     virtual bool HasVisibleItems() const;
     //! Appends the rows without the hidden ones, first to last or, unless `ascending`, last to
     //! first; the child folders are not among them. `sorted`: by the sorted column of the view,
@@ -127,6 +128,8 @@ public:
     //! recorded somewhere, a slot that takes it away for good is noticed.
     bool RecordList(Simple* source);
     bool ConnectRecordedList(Simple* source);
+    //! Undoes RecordList.
+    void UnrecordList(Simple* source) { lists_.Remove(source); }
     bool RemoveList(Simple* source);
     Simple* FindList(char const* name) const;
     Simple* FindList(Simple const* source) const { return lists_.Find(source); }

@@ -7,6 +7,7 @@
 #include <zbBrowserView/host/zbIBrowserDataSourceSimple.h>
 
 #include <algorithm>
+#include <new>
 
 zbBrowserFreeFolderContentHolder::zbBrowserFreeFolderContentHolder(
     zbBrowserViewItemFreeFolder& folder)
@@ -62,7 +63,7 @@ bool zbBrowserFreeFolderContentHolder::HasLists() const {
 }
 
 bool zbBrowserFreeFolderContentHolder::IsConcernedWith(Simple const* source) const {
-    return FindList(source) != nullptr || noGrouping_.Leaves().CountOf(source) > 0;
+    return FindList(source) != nullptr || noGrouping_.HasRowsOf(source);
 }
 
 bool zbBrowserFreeFolderContentHolder::SetListGrouped(Simple* source, bool grouped) {
@@ -72,7 +73,13 @@ bool zbBrowserFreeFolderContentHolder::SetListGrouped(Simple* source, bool group
         std::swap(from, to);
     bool moved = true;
     if (from->FindList(source) != nullptr && to->RecordList(source)) {
-        from->RemoveList(source);
+        try {
+            from->RemoveList(source);
+        } catch (std::bad_alloc const&) {
+            if (from->FindList(source) != nullptr)
+                to->UnrecordList(source);
+            throw;
+        }
         moved = to->ConnectRecordedList(source);
     }
     for (auto* const tree : withTree_.Trees()) {

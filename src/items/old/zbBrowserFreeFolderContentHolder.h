@@ -6,6 +6,7 @@
 #include "items/old/zbBrowserFreeFolderContentNoGrouping.h"
 #include "items/old/zbBrowserFreeFolderContentWithGrouping.h"
 #include "items/old/zbBrowserFreeFolderContentWithTree.h"
+#include "view/ViewLifetime.h"
 
 #include <array>
 
@@ -14,7 +15,7 @@
 //!
 //! A list is in one of the two list strategies: which one is decided by the folder's GetGroupLeafs
 //! when the list is created, and later by SetListGrouped alone.
-class zbBrowserFreeFolderContentHolder {
+class zbBrowserFreeFolderContentHolder final : public zbbrowser::detail::Retirable {
 public:
     using Items = zbBrowserFreeFolderContent::Items;
     using Simple = zbBrowserFreeFolderContent::Simple;
@@ -23,7 +24,7 @@ public:
     explicit zbBrowserFreeFolderContentHolder(zbBrowserViewItemFreeFolder& folder);
     zbBrowserFreeFolderContentHolder(zbBrowserFreeFolderContentHolder const&) = delete;
     zbBrowserFreeFolderContentHolder& operator=(zbBrowserFreeFolderContentHolder const&) = delete;
-    virtual ~zbBrowserFreeFolderContentHolder();
+    ~zbBrowserFreeFolderContentHolder() override;
 
     zbBrowserViewItemFreeFolder& Folder() const { return folder_; }
     zbBrowserFreeFolderContentNoGrouping& NoGrouping() { return noGrouping_; }

@@ -49,7 +49,7 @@ bool zbBrowserFreeFolderContentNoGrouping::OnDataItemCreated(zbIBrowserDataItemS
                                                              Items& created, Items&) {
     if (item == nullptr)
         return false;
-    created.push_back(FindOrCreateLeaf(item, false));
+    created.push_back(FindOrCreateLeaf(*item, item->GetDataSource(), false));
     if (IsAlive())
         RaiseChanged(Folder());
     return true;
@@ -62,15 +62,18 @@ bool zbBrowserFreeFolderContentNoGrouping::ConnectList(Simple* source, bool sile
     if (items.empty())
         return true;
     leaves_.Reserve(items.size() - std::min(items.size(), leaves_.CountOf(source)));
+    auto const isRebuild = leaves_.CountOf(source) > 0;
     auto const slotsRun = !silent && Context().IsHeard(&zbBrowserSignalManager::ViewItemCreated);
     for (std::size_t i = 0; i < items.size(); ++i) {
-        if (i + prefetchDistance < items.size())
+        if (isRebuild)
+            leaves_.PrefetchFind(items, i);
+        else if (i + prefetchDistance < items.size())
             leaves_.PrefetchFind(items[i + prefetchDistance]);
         if (items[i] == nullptr || leaves_.Find(items[i]) != nullptr)
             continue;
-        if (!slotsRun)
-            CreateLeaf(items[i], silent);
-        else if (!CreateLeafIfContained(*source, items[i]))
+        auto const isDone = slotsRun ? CreateLeafIfContained(*source, items[i])
+                                     : CreateLeaf(*items[i], source, silent) != nullptr;
+        if (!isDone)
             return false;
     }
     if (!silent)
@@ -84,7 +87,7 @@ bool zbBrowserFreeFolderContentNoGrouping::CreateLeafIfContained(Simple& source,
                                                                  zbIBrowserDataItemSimple* item) {
     auto const isContained = source.ContainsDataItem(item);
     if (isContained && IsStillConnected(&source))
-        FindOrCreateLeaf(item, false);
+        FindOrCreateLeaf(*item, &source, false);
     return IsStillConnected(&source);
 }
 
@@ -98,17 +101,22 @@ bool zbBrowserFreeFolderContentNoGrouping::DisconnectList(Simple* source, bool s
     return true;
 }
 
+// Leaves and data items lie all over the memory once the list is sorted.
+void zbBrowserFreeFolderContentNoGrouping::PrefetchData(std::vector<Leaf*> const& leaves,
+                                                        std::size_t i) {
+    if (i + 2 * prefetchDistance < leaves.size()) {
+        Prefetch(leaves[i + 2 * prefetchDistance]);
+        Prefetch(leaves[i + prefetchDistance]->GetDataItemSimple());
+    }
+}
+
 // Only the dirty rows lose their place among the sorted ones, as new rows have none.
 bool zbBrowserFreeFolderContentNoGrouping::RefreshListItems(Simple* source, bool silent) {
     auto const bracket = BeginLongOperation(Context());
     auto const leaves = leaves_.SnapshotOf(source);
     std::vector<Leaf const*> dirty;
-    constexpr std::size_t near = prefetchDistance;
     for (std::size_t i = 0; i < leaves.size(); ++i) {
-        if (i + 2 * near < leaves.size()) {
-            Prefetch(leaves[i + 2 * near]);
-            Prefetch(leaves[i + near]->GetDataItemSimple());
-        }
+        PrefetchData(leaves, i);
         auto& leaf = *leaves[i];
         if (!IsStillListed(leaf) || !IsDirty(*source, leaf))
             continue;
@@ -148,7 +156,7 @@ bool zbBrowserFreeFolderContentNoGrouping::RebuildList(Simple* source, bool sile
 }
 
 bool zbBrowserFreeFolderContentNoGrouping::RedrawList(Simple*) {
-    NoteChangedValues();
+    sortBasis_ = {}; // All values may have changed: not now, but when next sorted all are
     auto const bracket = BeginLongOperation(Context());
     for (auto* const leaf : leaves_.Snapshot()) {
         if (IsStillListed(*leaf))
@@ -188,6 +196,10 @@ void zbBrowserFreeFolderContentNoGrouping::GetAllViewItems(Items& out, bool) con
     leaves_.AppendAllTo(out);
 }
 
+bool zbBrowserFreeFolderContentNoGrouping::HasRowsOf(Simple const* source) const {
+    return leaves_.CountOf(source) > 0;
+}
+
 bool zbBrowserFreeFolderContentNoGrouping::GetSortedItems(Items& out, bool sorted, bool ascending) {
     if (sorted && !SortRows())
         return false;
@@ -218,8 +230,7 @@ zbBrowserFreeFolderContentNoGrouping::FindViewItem(zbIBrowserViewItem const* ite
 }
 
 void zbBrowserFreeFolderContentNoGrouping::DeleteAll() {
-    DetachedLeaves gone(Context());
-    gone.Reserve(leaves_.Count());
+    DetachedLeaves gone(Context(), leaves_.Count());
     for (auto* const leaf : leaves_.TakeAll())
         gone.Add(*leaf);
 }
@@ -254,25 +265,26 @@ void zbBrowserFreeFolderContentNoGrouping::SelectAll(bool select) {
 }
 
 zbBrowserFreeFolderContentNoGrouping::Leaf*
-zbBrowserFreeFolderContentNoGrouping::FindOrCreateLeaf(zbIBrowserDataItemSimple* item,
-                                                       bool silent) {
-    auto* const known = leaves_.Find(item);
-    return known != nullptr ? known : CreateLeaf(item, silent);
+zbBrowserFreeFolderContentNoGrouping::FindOrCreateLeaf(zbIBrowserDataItemSimple& item,
+                                                       Simple const* list, bool silent) {
+    auto* const known = leaves_.Find(&item);
+    return known != nullptr ? known : CreateLeaf(item, list, silent);
 }
 
 zbBrowserFreeFolderContentNoGrouping::Leaf*
-zbBrowserFreeFolderContentNoGrouping::CreateLeaf(zbIBrowserDataItemSimple* item, bool silent) {
-    auto const countBefore = leaves_.Count();
-    auto const* const source = item->GetDataSource();
+zbBrowserFreeFolderContentNoGrouping::CreateLeaf(zbIBrowserDataItemSimple& item, Simple const* list,
+                                                 bool silent) {
+    auto const changesBefore = leaves_.ChangeNumber();
+    auto const* const source = item.GetDataSource();
     auto const hidden = Context().Handlers().IsDataSourceFiltered(source);
-    if (!IsAlive())
+    // The host may have taken out the list from within these calls, or reported the item.
+    if (!IsStillConnected(list))
         return nullptr;
-    // The host may have reported the item from within these calls.
-    if (leaves_.Count() != countBefore) {
-        if (auto* const known = leaves_.Find(item); known != nullptr)
+    if (leaves_.ChangeNumber() != changesBefore) {
+        if (auto* const known = leaves_.Find(&item); known != nullptr)
             return known;
     }
-    auto& leaf = MakeLeaf(item, source, hidden);
+    auto& leaf = MakeLeaf(&item, source, hidden);
     if (!silent)
         Context().Raise(&zbBrowserSignalManager::ViewItemCreated, &leaf);
     return &leaf;
@@ -299,16 +311,14 @@ void zbBrowserFreeFolderContentNoGrouping::DeleteLeaf(Leaf& leaf, bool silent) {
         Context().Raise(&zbBrowserSignalManager::ViewItemDeleted, &leaf);
     if (!IsStillListed(leaf))
         return;
-    DetachedLeaves gone(Context());
-    gone.Reserve(1);
+    DetachedLeaves gone(Context(), 1);
     leaves_.Take(leaf);
     gone.Add(leaf);
 }
 
 void zbBrowserFreeFolderContentNoGrouping::DeleteLeaves(std::vector<Leaf*> leaves, bool silent) {
     std::erase_if(leaves, [this](Leaf const* leaf) { return !IsStillListed(*leaf); });
-    DetachedLeaves gone(Context());
-    gone.Reserve(leaves.size());
+    DetachedLeaves gone(Context(), leaves.size());
     leaves_.Take(leaves);
     for (auto* const leaf : leaves)
         gone.Add(*leaf);
@@ -323,9 +333,12 @@ bool zbBrowserFreeFolderContentNoGrouping::ListItems(
 
 std::vector<zbBrowserFreeFolderContentNoGrouping::Leaf*>
 zbBrowserFreeFolderContentNoGrouping::FindStale(Simple& source) const {
-    auto leaves = leaves_.SnapshotOf(&source);
-    std::erase_if(leaves, [&](Leaf const* leaf) {
-        return !IsStillListed(*leaf) || source.ContainsDataItem(leaf->GetDataItemSimple());
-    });
-    return leaves;
+    auto const leaves = leaves_.SnapshotOf(&source);
+    std::vector<Leaf*> stale;
+    for (std::size_t i = 0; i < leaves.size(); ++i) {
+        PrefetchData(leaves, i);
+        if (IsStillListed(*leaves[i]) && !source.ContainsDataItem(leaves[i]->GetDataItemSimple()))
+            stale.push_back(leaves[i]);
+    }
+    return stale;
 }

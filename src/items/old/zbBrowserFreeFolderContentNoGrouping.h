@@ -53,6 +53,7 @@ public:
     void GetViewItems(zbIBrowserDataItemSimple* item, Items& found, Items& parents) override;
     void GetAllViewItems(Items& out, bool recursive) const override;
     std::size_t CountViewItems(bool) const override { return leaves_.Count(); }
+    bool HasRowsOf(Simple const* source) const override;
     bool HasVisibleItems() const override { return leaves_.HasVisible(); }
     bool GetSortedItems(Items& out, bool sorted, bool ascending) override;
     zbIBrowserViewItem* FindViewItem(zbIBrowserViewItem const* item) const override;
@@ -62,9 +63,9 @@ public:
     //! All rows are sorted when the list is next read in sorted form. A new row does not take this:
     //! it is sorted into the others.
     void SetUnsorted() override { leaves_.ForgetOrder(); }
-    //! What rows are sorted by may have changed. They stay where they are until a new one comes;
-    //! then all are sorted.
-    void NoteChangedValues() { sortBasis_ = {}; }
+    //! What a row is sorted by may have changed. It stays where it is until the others are sorted
+    //! next, for instance since a new one has come; then it finds its place anew.
+    void NoteChangedValues(zbBrowserViewItemDataLeaf const& leaf) { leaves_.NoteChanged(leaf); }
     void SelectAll(bool select) override;
     void MarkDead() override;
 
@@ -79,9 +80,9 @@ public:
 private:
     using Leaf = zbBrowserViewItemDataLeaf;
 
-    //! The leaf of the data item, made if there is none. Null once this content has gone.
-    Leaf* FindOrCreateLeaf(zbIBrowserDataItemSimple* item, bool silent);
-    Leaf* CreateLeaf(zbIBrowserDataItemSimple* item, bool silent);
+    //! The leaf of an item of a list, made if there is none. Null once the list has gone from here.
+    Leaf* FindOrCreateLeaf(zbIBrowserDataItemSimple& item, Simple const* list, bool silent);
+    Leaf* CreateLeaf(zbIBrowserDataItemSimple& item, Simple const* list, bool silent);
     //! The same, loudly, for an item that the source contains. False once the list has gone.
     bool CreateLeafIfContained(Simple& source, zbIBrowserDataItemSimple* item);
     Leaf& MakeLeaf(zbIBrowserDataItemSimple* item, zbIBrowserDataSource const* source, bool hidden);
@@ -91,6 +92,8 @@ private:
     //! Asks the source for its items. False also if the list is taken out meanwhile.
     bool ListItems(Simple& source, std::vector<zbIBrowserDataItemSimple*>& items) const;
     std::vector<Leaf*> FindStale(Simple& source) const;
+    //! For a loop that is at `i` and asks each data item something.
+    static void PrefetchData(std::vector<Leaf*> const& leaves, std::size_t i);
     bool IsStillListed(Leaf const& leaf) const { return IsAlive() && leaf.IsListed(); }
     bool IsStillConnected(Simple const* source) const {
         return IsAlive() && Lists().Contains(source);

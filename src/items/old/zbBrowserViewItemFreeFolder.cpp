@@ -147,6 +147,18 @@ void zbBrowserViewItemFreeFolder::RetireHolder() {
     context_.Lifetime().Retire(std::move(holder_));
 }
 
+// The folder stays in the index with the sources that it had: it may stand there without need.
+void zbBrowserViewItemFreeFolder::ReplaceHolder(
+    std::unique_ptr<zbBrowserFreeFolderContentHolder> holder) {
+    holder_.swap(holder);
+    if (holder == nullptr) {
+        context_.NoteHolderMade();
+        return;
+    }
+    holder->MarkDead();
+    context_.Lifetime().Retire(std::move(holder));
+}
+
 zbIBrowserViewItemFreeFolder*
 zbBrowserViewItemFreeFolder::FindChildFreeFolder(zbString const& name) const {
     auto const& slots = children_.Slots();

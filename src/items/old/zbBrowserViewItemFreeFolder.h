@@ -5,6 +5,7 @@
 
 #include "containers/SlotVector.h"
 #include "items/old/FolderPlace.h"
+#include "view/ViewLifetime.h"
 
 #include <zbBrowserView/zbBrowserView.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>
@@ -26,7 +27,8 @@ class OldViewContext;
 //!
 //! Two ways lead up: GetParent answers what SetParentFolder wrote, Owner() the folder that really
 //! holds this one.
-class zbBrowserViewItemFreeFolder : public zbIBrowserViewItemFreeFolder {
+class zbBrowserViewItemFreeFolder : public zbIBrowserViewItemFreeFolder,
+                                    public zbbrowser::detail::Retirable {
 public:
     using OldViewContext = zbbrowser::detail::OldViewContext;
 
@@ -198,6 +200,8 @@ private:
     //! Keeps the last message of a content that refused. Always false.
     bool Refuse(zbString const& message);
     void RetireHolder();
+    //! Throws nothing.
+    void ReplaceHolder(std::unique_ptr<zbBrowserFreeFolderContentHolder> holder);
     static void RetireSubtree(zbBrowserViewItemFreeFolder& top);
     //! Takes it out of the register and parks its holder.
     void Die();
@@ -208,8 +212,7 @@ private:
     void SetListExpanded(bool expand, zbIBrowserDataSourceSimple* list, bool recursive);
     //! Moves all lists and trees from one list strategy to the other.
     void MoveContent(bool grouped);
-    static void GiveBack(zbBrowserFreeFolderContentHolder& holder,
-                         std::vector<zbIBrowserDataSourceSimple*> const& lists,
+    void ConnectRecorded(std::vector<zbIBrowserDataSourceSimple*> const& lists,
                          std::vector<zbIBrowserDataSourceHierarchical*> const& trees);
 
     OldViewContext& context_;

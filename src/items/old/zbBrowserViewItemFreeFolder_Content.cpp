@@ -244,28 +244,29 @@ bool zbBrowserViewItemFreeFolder::SetShowEmptyContainers(bool show) {
         return true;
     if (!groupLeafs_)
         return Refuse("Cannot show empty folders when grouping is disabled");
-    busy_ = true;
-    showEmptyContainers_ = show;
     auto const lists = holder_ == nullptr ? std::vector<Simple*>() : holder_->Lists();
     auto const trees = holder_ == nullptr ? std::vector<Tree*>() : holder_->WithTree().Trees();
-    RetireHolder();
-    auto& holder = RequireHolder();
-    holder.ForEach([show](zbBrowserFreeFolderContent& c) { c.SetShowEmptyGroups(show); });
-    GiveBack(holder, lists, trees);
+    auto fresh = std::make_unique<zbBrowserFreeFolderContentHolder>(*this);
+    fresh->ForEach([show](zbBrowserFreeFolderContent& c) { c.SetShowEmptyGroups(show); });
+    for (auto* const list : lists)
+        fresh->ListContent().RecordList(list);
+    for (auto* const tree : trees)
+        fresh->WithTree().RecordTree(tree);
+
+    busy_ = true;
+    showEmptyContainers_ = show;
+    ReplaceHolder(std::move(fresh));
+    ConnectRecorded(lists, trees);
     busy_ = false;
     return true;
 }
 
-// All of them are recorded before the first is connected: a slot may take away those whose turn has
-// not come, and free them.
-void zbBrowserViewItemFreeFolder::GiveBack(zbBrowserFreeFolderContentHolder& holder,
-                                           std::vector<Simple*> const& lists,
-                                           std::vector<Tree*> const& trees) {
+// All of them have been recorded before the first is connected: a slot may take away those whose
+// turn has not come, and free them.
+void zbBrowserViewItemFreeFolder::ConnectRecorded(std::vector<Simple*> const& lists,
+                                                  std::vector<Tree*> const& trees) {
+    auto& holder = *holder_;
     auto& content = holder.ListContent();
-    for (auto* const list : lists)
-        content.RecordList(list);
-    for (auto* const tree : trees)
-        holder.WithTree().RecordTree(tree);
     for (auto* const list : lists)
         content.ConnectRecordedList(list);
     for (auto* const tree : trees) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "presentation/styles/StyleManagerBase.h"
+#include "view/ViewLifetime.h"
 
 #include <zbBrowserView/zbIBrowserViewColumn.h>
 
@@ -15,10 +16,8 @@ namespace zbbrowser::detail {
 class ViewContext;
 
 //! A column. The class of its generation gives it its style manager.
-class ColumnBase : public zbIBrowserViewColumn, public zbBrowserErrorReporter {
+class ColumnBase : public zbIBrowserViewColumn, public zbBrowserErrorReporter, public Retirable {
 public:
-    ColumnBase(ColumnBase const&) = delete;
-    ColumnBase& operator=(ColumnBase const&) = delete;
     ~ColumnBase() override;
 
     zbIBrowserStyleManager* GetStyleManager() const override { return styles_.get(); }

@@ -111,6 +111,7 @@ CustomColumn* ColumnSet::Add(char const* name) {
         return nullptr;
     auto made = Make(name, ++lastNumber_);
     auto& column = *made;
+    scripted_.Reserve(1);
     byName_.emplace(KeyOf(column), std::move(made));
     scripted_.Add(&column);
     return &column;
@@ -148,7 +149,7 @@ bool ColumnSet::Delete(zbIBrowserViewColumn* column) {
 }
 
 void ColumnSet::DeleteAllScripted() {
-    for (auto const* const column : scripted_.Snapshot())
+    while (auto const* const column = scripted_.Last())
         Remove(column);
 }
 

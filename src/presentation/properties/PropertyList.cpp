@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "presentation/properties/PropertyList.h"
 
+#include "containers/MakeRoom.h"
+
 #include <zbBrowserView/zbBrowserView.h>
 
 #include <algorithm>
@@ -50,8 +52,12 @@ void PropertyList::Create(char const* name) {
 void PropertyList::Create(PropertyKind kind, zbString const& name) {
     if (byName_.contains(name))
         return;
-    auto* const made = owned_.emplace_back(Make(kind, name)).get();
+    listed_.Reserve(1);
+    MakeRoom(owned_);
+    auto owned = Make(kind, name);
+    auto* const made = owned.get();
     byName_.emplace(made->GetName(), made);
+    owned_.push_back(std::move(owned));
     listed_.Add(made);
     for (std::size_t i = 0; i < defaultRows.size(); ++i) {
         if (name == *defaultRows[i].name)

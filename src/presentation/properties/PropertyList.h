@@ -5,6 +5,7 @@
 
 #include "containers/PointerList.h"
 #include "presentation/properties/ViewPropertyBase.h"
+#include "view/ViewLifetime.h"
 
 #include <array>
 #include <memory>
@@ -30,17 +31,20 @@ struct ConnectionRules {
 //!
 //! What is asked about a property is answered for those in the list; any other pointer is compared
 //! and not followed. All but CreateDefaults and CopyTo are O(1) in the number of properties.
-class PropertyList {
+class PropertyList : public Retirable {
 public:
-    PropertyList(PropertyList const&) = delete;
-    PropertyList& operator=(PropertyList const&) = delete;
-    virtual ~PropertyList();
+    ~PropertyList() override;
 
     //! The exact name, case included. Null: there is none.
     zbIBrowserViewProperty* Find(std::string_view name) const;
     //! Find for one that stands in every view; faster.
     zbIBrowserViewProperty* Default(DefaultProperty which) const {
         return defaults_[static_cast<std::size_t>(which)];
+    }
+    //! Requires: `visit` does not change the list.
+    template <class Visit>
+    void ForEach(Visit visit) const {
+        listed_.ForEach(visit);
     }
     //! Replaces `out` by the properties in their order.
     void CopyTo(std::vector<zbIBrowserViewProperty*>& out) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "presentation/styles/StyleManagerBase.h"
 
+#include "containers/MakeRoom.h"
 #include "presentation/styles/zbBrowserStyleElement.h"
 #include "view/ViewContext.h"
 
@@ -55,6 +56,7 @@ bool StyleManagerBase::Add(zbIBrowserStyle* style) {
     auto* const own = context_.Styles().Find(style);
     if (own == nullptr || IsTaken(own->Name()))
         return false;
+    MakeRoom(styles_);
     if (own->Manager() != nullptr)
         own->Manager()->Forget(*own);
     own->SetManager(nullptr);
@@ -96,6 +98,7 @@ bool StyleManagerBase::SetCurrentStyle(zbIBrowserStyle* style) {
 bool StyleManagerBase::BeginDeletion(zbIBrowserStyle const* listed) {
     if (listed == nullptr)
         return false;
+    MakeRoom(former_);
     if (listed == default_) {
         SetError("default column style cann't be deleted.");
         return false;

@@ -10,9 +10,9 @@ namespace zbbrowser::detail {
 
 // A style takes its elements along; those that no style has are left.
 StyleShelf::~StyleShelf() {
-    for (auto* const style : styles_.Snapshot())
+    while (auto* const style = styles_.Last())
         delete style;
-    for (auto* const element : elements_.Snapshot())
+    while (auto* const element = elements_.Last())
         delete element;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "presentation/styles/zbBrowserStyle.h"
 
+#include "containers/MakeRoom.h"
 #include "presentation/styles/StyleManagerBase.h"
 #include "presentation/styles/zbBrowserStyleElement.h"
 #include "view/ViewContext.h"
@@ -9,6 +10,7 @@
 #include <utility>
 
 using zbbrowser::detail::CallScope;
+using zbbrowser::detail::MakeRoom;
 
 zbBrowserStyle::zbBrowserStyle(zbbrowser::detail::ViewContext& context, zbString name)
     : context_(context)
@@ -68,6 +70,7 @@ zbIBrowserStyleElement* zbBrowserStyle::CreateElement(char const* name, char con
     CallScope const scope(context_.Lifetime());
     if (!Withdraw())
         return nullptr;
+    MakeRoom(elements_);
     auto* const element = new zbBrowserStyleElement(context_, name, title);
     elements_.push_back(element);
     element->SetStyle(this);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecordedView.h"
 
+#include "support/AllocationFailures.h"
+
 #include <zbBrowserView/host/zbIBrowserDataCtrl.h>
 #include <zbBrowserView/host/zbIBrowserDataSourceHierarchical.h>
 #include <zbBrowserView/host/zbIBrowserDataSourceSimple.h>
@@ -19,6 +21,7 @@ RecordedView::RecordedView(zbBrowserViewCtrl const* ctrl, zbString const& name)
 }
 
 RecordedView::~RecordedView() {
+    MemoryIsBack const memory;
     Report("Destroyed");
 }
 

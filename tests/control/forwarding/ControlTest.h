@@ -6,6 +6,7 @@
 #include "control/ItemDoubles.h"
 #include "control/Thrown.h"
 #include "RecordedView.h"
+#include "support/AllocationFailures.h"
 #include "support/RecordingHostControl.h"
 #include "support/RecordingHostGui.h"
 
@@ -17,6 +18,8 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <new>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -32,10 +35,15 @@ protected:
         manager.signals = &signals;
         manager.panel = &panel;
         ctrl.reset(CreateBrowserViewCtrl(&manager));
+        if (ctrl == nullptr)
+            throw std::bad_alloc();
         calls.Record(true);
     }
 
     ~ControlTest() override {
+        MemoryIsBack const memory;
+        if (AllocationFailures::HasFailed()) // The hooks may want what the test body had
+            static_cast<void>(calls.ExchangeHooks({}));
         ctrl.reset();
         viewCalls = nullptr;
     }
@@ -64,7 +72,8 @@ protected:
 
 private:
     void Create(char const* name, bool isNew) {
-        EXPECT_TRUE(RecordingManager::CreateView(*ctrl, name, isNew));
+        if (!RecordingManager::CreateView(*ctrl, name, isNew))
+            throw std::runtime_error(name);
         static_cast<void>(Take());
     }
 };

@@ -56,6 +56,7 @@ TEST_F(Controller, HasATableOfSharedTreesFromTheBeginning) {
 
 TEST_F(Controller, WithoutAManagerHasNoSignalsAndNoActiveView) {
     std::unique_ptr<zbBrowserViewCtrl> const alone(CreateBrowserViewCtrl(nullptr));
+    ASSERT_NE(alone, nullptr);
     ItemDouble item(nullptr);
     zbString result;
 
@@ -226,6 +227,7 @@ TEST_F(Controller, CopiedHasAnErrorStateOfItsOwn) {
 
 TEST_F(Controller, AssignedShowsTheOthersPartsAndStillFreesItsOwn) {
     std::unique_ptr<zbBrowserViewCtrl> other(CreateBrowserViewCtrl(&manager));
+    ASSERT_NE(other, nullptr);
     RecordingManager::CreateView(*other, "mine", true);
     New("theirs");
 

@@ -148,6 +148,7 @@ TEST_F(FolderCommands, PendingChangesOfAnOldViewAreACallersMistake) {
 
 TEST_F(FolderCommands, PendingChangesOfAFolderOfAnotherControllerAreRefused) {
     std::unique_ptr<zbBrowserViewCtrl> const other(CreateBrowserViewCtrl(&manager));
+    ASSERT_NE(other, nullptr);
     zbbrowser::View& view = New("new");
     view.controller = other.get();
     FolderDouble folder(&view, "tools");
