@@ -52,7 +52,8 @@ std::map<std::string, ScriptPlayer::Handler> const& ScriptPlayer::SelectionHandl
     return handlers;
 }
 
-// From within a signal a row that is on its way out may still be selected, and stands below nothing.
+// From within a signal a row that is on its way out may still be selected, and stands below
+// nothing.
 void ScriptPlayer::ChangeSelection(ScriptStep const& step, zbIBrowserView& view,
                                    ItemSet const& expected, std::function<void()> const& change) {
     auto const attacksBefore = attacksMade_;
