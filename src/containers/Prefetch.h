@@ -3,10 +3,12 @@
 //! Asking the processor for memory that is looked at soon.
 #pragma once
 
+#include <cstddef>
+
 namespace zbbrowser::detail {
 
 //! How many elements ahead a loop over scattered objects asks for them.
-inline constexpr unsigned prefetchDistance = 8;
+inline constexpr std::size_t prefetchDistance = 8;
 
 //! Any address will do; it is not followed.
 inline void Prefetch(void const* address) {

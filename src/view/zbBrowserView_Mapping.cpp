@@ -109,6 +109,7 @@ bool zbBrowserView::GetSelectionTypes(Items const&, std::vector<zbIBrowserDataSo
 
 void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemSimple* item, Items& found,
                                               Items& parents) {
+    CallScope const scope(context_->Lifetime());
     if (item != nullptr)
         AppendRowsOf(item, item->GetDataSource(), found, parents);
 }

@@ -201,6 +201,22 @@ TEST_F(MappingTest, AHiddenRowIsFoundAndStandsForItsData) {
     EXPECT_EQ(Simple({&a}), (Names{"bolt_1", "nut_2"}));
 }
 
+TEST_F(MappingTest, TheViewMayBeDeletedWhileAnItemIsAskedForItsSource) {
+    Show(a, part);
+    auto& bolt = part["bolt_1"];
+    host.calls.On("GetDataSource", "bolt_1", [&] {
+        host.calls.Off("GetDataSource", "bolt_1");
+        host.DeleteView(view);
+    });
+
+    Items found;
+    Items parents;
+    view.GetDataDependentViewItems(&bolt, found, parents);
+
+    EXPECT_EQ(host.Controller().OLD_FindView("view"), nullptr);
+    signals.Discard();
+}
+
 TEST_F(MappingTest, AskingForRowsCallsNobodyAndSignalsNothing) {
     Show(a, part);
     host.calls.Record(true);
