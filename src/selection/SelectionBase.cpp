@@ -47,9 +47,11 @@ void SelectionBase::UpdateSelection(Items const& items, bool select, bool clear)
 }
 
 void SelectionBase::UpdatePreviousSelection() {
-    if (context_ == nullptr || !context_->IsHeard(&zbBrowserSignalManager::ViewItemsSelected))
+    if (context_ == nullptr)
         return;
     CallScope const scope(context_->Lifetime());
+    if (!context_->IsHeard(&zbBrowserSignalManager::ViewItemsSelected))
+        return;
     auto items = Selected();
     context_->Raise(&zbBrowserSignalManager::ViewItemsSelected, items);
 }

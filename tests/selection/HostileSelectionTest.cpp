@@ -245,6 +245,18 @@ TYPED_TEST(HostileSelection, ASlotMayDeleteTheView) {
     this->signals.Discard();
 }
 
+TYPED_TEST(HostileSelection, TheHostMayDeleteTheViewWhenAskedForItsSignals) {
+    this->host.calls.On("GetSignalManager", "manager", [this] {
+        this->host.calls.Off("GetSignalManager", "manager");
+        this->host.DeleteView(this->view);
+    });
+
+    this->view.UpdatePreviousSelection();
+
+    EXPECT_EQ(this->host.Controller().FindView("view"), nullptr);
+    this->signals.Discard();
+}
+
 TYPED_TEST(HostileSelection, TheEndOfAChangeMayBeTheEndOfTheView) {
     this->signals.Once(&zbBrowserDataSignalManager::SelectionManagerChanged,
                        [this](auto*, auto*) { this->host.DeleteView(this->view); });
