@@ -47,12 +47,17 @@ private:
     std::size_t first_ = never;
 };
 
-//! What the process that runs a test tells the one that waits for it.
+//! What the process that runs the tests tells the one that waits for it.
 struct Progress {
+    std::size_t test = 0; //!< The one that is running.
+    bool isBegun = false; //!< It has the following.
     std::size_t next = 0; //!< The allocation that fails next.
-    std::size_t runs = 0;
+    std::size_t step = 1;
     std::size_t problems = 0;
-    bool isDone = false;
+
+    std::size_t allAllocations = 0;
+    std::size_t allFailures = 0;
+    std::size_t allProblems = 0;
 };
 
 class AllocationRun {
@@ -72,13 +77,31 @@ public:
         munmap(&progress_, sizeof(Progress));
     }
 
+    // A crash ends the process that runs the tests, and another one goes on behind the place.
     int Run(std::vector<std::string> const& tests) {
-        for (std::size_t i = 0; i < tests.size(); ++i)
-            RunTest(tests[i], i);
-        std::cout << program_ << ": " << tests.size() << " tests, " << progress_.runs
-                  << " of their " << allocations_ << " allocations failed, " << progress_.problems
-                  << " problems\n";
-        return progress_.problems == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+        while (progress_.test < tests.size()) {
+            std::cout.flush();
+            auto const child = fork();
+            if (child == 0) {
+                for (; progress_.test < tests.size(); ++progress_.test)
+                    RunTest(tests[progress_.test]);
+                std::cout.flush();
+                _exit(EXIT_SUCCESS);
+            }
+            int status = 0;
+            waitpid(child, &status, 0);
+            if (progress_.test == tests.size())
+                break;
+            Tell(tests[progress_.test], progress_.next,
+                 !WIFSIGNALED(status)          ? "ended the program"
+                 : WTERMSIG(status) == SIGALRM ? "does not end"
+                                               : strsignal(WTERMSIG(status)));
+            progress_.next += progress_.step;
+        }
+        std::cout << program_ << ": " << tests.size() << " tests, " << progress_.allFailures
+                  << " of their " << progress_.allAllocations << " allocations failed, "
+                  << progress_.allProblems << " problems\n";
+        return progress_.allProblems == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
     }
 
     //! In this process.
@@ -86,7 +109,7 @@ public:
         testing::GTEST_FLAG(filter) = test;
         RunOnce(never);
         Check(test, place);
-        return progress_.problems == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+        return progress_.allProblems == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
     }
 
 private:
@@ -118,42 +141,23 @@ private:
         testing::GTEST_FLAG(filter) = std::move(test);
     }
 
-    // A crash ends the process of the test, and another one goes on behind the place. Not every
-    // test begins with its first allocation, since many begin alike.
-    void RunTest(std::string const& test, std::size_t number) {
+    // Not every test begins with its first allocation, since many begin alike. A test may also
+    // begin and end failures of its own; what fails there is not counted.
+    void RunTest(std::string const& test) {
         testing::GTEST_FLAG(filter) = test;
         RunOnce(never);
         auto const all = AllocationFailures::Count();
-        auto const step = options_.most == 0 ? 1 : all / options_.most + 1;
-        auto const allowed = progress_.problems + problemsPerTest;
-        allocations_ += all;
-        progress_.next = number % step;
-        progress_.isDone = false;
-        while (!progress_.isDone && progress_.problems < allowed) {
-            std::cout.flush();
-            auto const child = fork();
-            if (child == 0) {
-                RunPlaces(test, step, allowed);
-                std::cout.flush();
-                _exit(EXIT_SUCCESS);
-            }
-            int status = 0;
-            waitpid(child, &status, 0);
-            if (progress_.isDone)
-                continue;
-            Tell(test, progress_.next,
-                 !WIFSIGNALED(status)          ? "ended the program"
-                 : WTERMSIG(status) == SIGALRM ? "does not end"
-                                               : strsignal(WTERMSIG(status)));
-            progress_.next += step;
+        if (!std::exchange(progress_.isBegun, true)) {
+            progress_.step = options_.most == 0 ? 1 : all / options_.most + 1;
+            progress_.next = progress_.test % progress_.step;
+            progress_.problems = 0;
+            progress_.allAllocations += all;
         }
-    }
-
-    void RunPlaces(std::string const& test, std::size_t step, std::size_t allowed) {
         left_ = RunOnce(never);
-        while (progress_.problems < allowed && Check(test, progress_.next))
-            progress_.next += step;
-        progress_.isDone = true;
+        while (progress_.problems < problemsPerTest && progress_.next < all &&
+               Check(test, progress_.next))
+            progress_.next += progress_.step;
+        progress_.isBegun = false;
     }
 
     // What is left for good the first time, such as a constant that is made when it is needed, is
@@ -162,7 +166,7 @@ private:
         auto left = RunOnce(place);
         if (!AllocationFailures::HasFailed())
             return false;
-        ++progress_.runs;
+        ++progress_.allFailures;
         if (Problems().empty() && left != left_)
             left = RunOnce(place);
         if (Problems().empty() && left != left_)
@@ -174,6 +178,7 @@ private:
 
     void Tell(std::string const& test, std::size_t place, std::string_view text) {
         ++progress_.problems;
+        ++progress_.allProblems;
         std::cout << text << "\n  " << program_ << " --fail-allocations="
                   << (options_.failing == Failing::Once ? "once" : "always") << " --at=" << place
                   << " --gtest_filter=" << test << "\n";
@@ -183,7 +188,6 @@ private:
     std::string const program_;
     Progress& progress_;
     FailDuringTest failDuringTest_;
-    std::size_t allocations_ = 0;
     long left_ = 0;
 };
 
