@@ -361,8 +361,7 @@ protected:
     OutOfStepTest() {
         host.isCheckedAfterFailure = false;
         Show(folder, part);
-        auto& context = folder.Context();
-        auto* const leaf = new (context.LeafMemory().Allocate())
+        auto* const leaf = new (folder.Context().LeafMemory().Allocate())
             zbBrowserViewItemDataLeafInFreeFolder(folder, &part["bolt"], false);
         content.Leaves().Append(*leaf, &part);
     }
