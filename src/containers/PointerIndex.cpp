@@ -8,9 +8,9 @@ namespace zbbrowser::detail {
 
 namespace {
 
-// Room for this many entries takes that many places: at most three in four are taken.
+// Room for this many entries takes that many places: at most seven in eight are taken.
 std::size_t PlacesFor(std::size_t entries) {
-    return entries + entries / 3 + 8;
+    return entries + entries / 7 + 8;
 }
 
 // As in a SlotVector: a first request gets a little more, later ones grow by half.
@@ -33,9 +33,9 @@ void PointerIndex::Reserve(std::size_t count) {
 
 void PointerIndex::Place(Entry entry) {
     auto i = Home(entry.hash);
-    while (entries_[i].slot != none)
+    for (std::size_t distance = 0; !IsBehind(i, distance); ++distance)
         i = Next(i);
-    entries_[i] = entry;
+    InsertAt(i, entry);
 }
 
 void PointerIndex::Erase(void const* key, Slot slot) {
@@ -49,15 +49,11 @@ void PointerIndex::Erase(void const* key, Slot slot) {
     }
 }
 
-// Closes the gap: each entry behind it, up to the next free place, moves into the gap if that is
-// no further from its home than where it is.
+// Closes the gap: what stands behind it moves up, as far as it is not at home.
 void PointerIndex::EraseAt(std::size_t hole) {
-    for (auto i = Next(hole); entries_[i].slot != none; i = Next(i)) {
-        auto const home = Home(entries_[i].hash);
-        if (Distance(home, i) >= Distance(hole, i)) {
-            entries_[hole] = entries_[i];
-            hole = i;
-        }
+    for (auto i = Next(hole); !IsBehind(i, 1); i = Next(i)) {
+        entries_[hole] = entries_[i];
+        hole = i;
     }
     entries_[hole] = {};
     --count_;

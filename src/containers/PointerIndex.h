@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace zbbrowser::detail {
@@ -13,9 +14,10 @@ namespace zbbrowser::detail {
 //! allocation per entry, no tombstones. It does not hold the addresses themselves but 32 bits of
 //! their hash; the caller says which slot really belongs to an address.
 //!
-//! Open addressing with linear probing and deletion by backward shift (Knuth, The Art of Computer
-//! Programming, volume 3, 6.4, algorithm R), on a table of any size: the home of a hash is found
-//! by multiplication instead of a mask.
+//! Open addressing with linear probing, where those that are further from home go first (Celis,
+//! Robin Hood Hashing, 1986), so that a search in a table that is nearly full ends early, and with
+//! deletion by backward shift. The table has any size: the home of a hash is found by
+//! multiplication instead of a mask.
 class PointerIndex {
 public:
     using Slot = std::uint32_t;
@@ -33,20 +35,17 @@ public:
         if (entries_.empty())
             return none;
         auto const hash = Hash(key);
-        for (auto i = Home(hash); entries_[i].slot != none; i = Next(i)) {
+        auto i = Home(hash);
+        for (std::size_t distance = 0; !IsBehind(i, distance); i = Next(i), ++distance) {
             if (entries_[i].hash == hash && isKey(entries_[i].slot))
                 return entries_[i].slot;
         }
         return none;
     }
 
-    //! The slot that Find will most likely ask about first; none if there is none.
+    //! The slot that Find will ask about first; none if there is none.
     Slot Guess(void const* key) const {
-        if (entries_.empty())
-            return none;
-        auto const hash = Hash(key);
-        auto const& entry = entries_[Home(hash)];
-        return entry.hash == hash ? entry.slot : none;
+        return Find(key, [](Slot) { return true; });
     }
 
     //! Adds an entry unless there is a slot for which `isKey(slot)` holds among those that share
@@ -55,11 +54,11 @@ public:
     void InsertIfAbsent(void const* key, Slot slot, IsKey isKey) {
         auto const hash = Hash(key);
         auto i = Home(hash);
-        for (; entries_[i].slot != none; i = Next(i)) {
+        for (std::size_t distance = 0; !IsBehind(i, distance); i = Next(i), ++distance) {
             if (entries_[i].hash == hash && isKey(entries_[i].slot))
                 return;
         }
-        entries_[i] = {hash, slot};
+        InsertAt(i, {hash, slot});
         ++count_;
     }
 
@@ -102,7 +101,17 @@ private:
     std::size_t Distance(std::size_t from, std::size_t to) const {
         return to >= from ? to - from : to + entries_.size() - from;
     }
+    //! What stands there is of no use to a search that has come so far from its home.
+    bool IsBehind(std::size_t i, std::size_t distance) const {
+        auto const& entry = entries_[i];
+        return entry.slot == none || Distance(Home(entry.hash), i) < distance;
+    }
     void Place(Entry entry);
+    //! Moves what stands there, and behind it up to the next free place, by one.
+    void InsertAt(std::size_t i, Entry entry) {
+        for (; entry.slot != none; i = Next(i))
+            std::swap(entry, entries_[i]);
+    }
     void EraseAt(std::size_t hole);
 
     std::vector<Entry> entries_;

@@ -47,10 +47,18 @@ SlabPool::SlabPool(std::size_t blockSize)
 
 SlabPool::~SlabPool() = default;
 
+void SlabPool::Reserve(std::size_t count) {
+    auto const inCurrent = current_ == nullptr ? 0 : blocksPerSlab_ - usedOfCurrent_;
+    auto const present = freeCount_ + inCurrent + (slabCount_ - begunCount_) * blocksPerSlab_;
+    if (count > present)
+        AddChunk(std::max((count - present + blocksPerSlab_ - 1) / blocksPerSlab_, SlabsAtOnce()));
+}
+
 void* SlabPool::Allocate() {
     if (free_ != nullptr) {
         FreeBlock* const block = free_;
         free_ = block->next;
+        --freeCount_;
         Slab* const slab = Slab::Of(block);
         slab->handedOut.set(IndexOf(*slab, block));
         return block;
@@ -65,6 +73,7 @@ void SlabPool::Free(void* block) {
     Slab* const slab = Slab::Of(block);
     slab->handedOut.reset(IndexOf(*slab, block));
     free_ = new (block) FreeBlock{free_};
+    ++freeCount_;
 }
 
 bool SlabPool::Owns(void const* address) const {
@@ -82,25 +91,29 @@ bool SlabPool::Owns(void const* address) const {
 
 void SlabPool::BeginSlab() {
     static_assert(std::is_trivially_destructible_v<Slab>, "slabs go without being destroyed");
-    if (chunks_.empty() || chunks_[newest_].begun == chunks_[newest_].slabs)
-        AddChunk();
-    auto& chunk = chunks_[newest_];
+    if (slabCount_ == begunCount_)
+        AddChunk(SlabsAtOnce());
+    auto& chunk = *std::find_if(chunks_.begin(), chunks_.end(),
+                                [](Chunk const& each) { return each.begun < each.slabs; });
     current_ = new (chunk.memory.get() + chunk.begun * slabAlignment) Slab;
     ++chunk.begun;
+    ++begunCount_;
     usedOfCurrent_ = 0;
 }
 
-// A quarter more, so that little is left over.
-void SlabPool::AddChunk() {
-    auto const slabs = std::clamp(slabCount_ / 4, std::size_t{1}, mostSlabsAtOnce);
+void SlabPool::AddChunk(std::size_t slabs) {
     auto const bytes = slabs * slabAlignment - leftFree;
     Chunk chunk{{}, slabs, 0};
     chunk.memory.reset(
         static_cast<std::byte*>(::operator new(bytes, std::align_val_t(slabAlignment))));
     auto const place = ChunksUpTo(chunk.memory.get());
     chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place), std::move(chunk));
-    newest_ = place;
     slabCount_ += slabs;
+}
+
+// A quarter more, so that little is left over.
+std::size_t SlabPool::SlabsAtOnce() const {
+    return std::clamp(slabCount_ / 4, std::size_t{1}, mostSlabsAtOnce);
 }
 
 // std::less orders unrelated pointers, which the built-in comparison need not.

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <random>
 #include <set>
@@ -74,6 +75,36 @@ TEST_F(SlabPoolTest, WhatABigPoolHasNotHandedOutYetIsNotOwned) {
         auto const* const behind = last + i * blockSize;
         ASSERT_EQ(pool.Owns(behind), blocks.contains(behind)) << i;
     }
+}
+
+//! The slabs of `count` blocks that are handed out one after the other.
+std::set<std::uintptr_t> SlabsOf(SlabPool& pool, std::size_t count) {
+    constexpr std::uintptr_t slabSize = 65536;
+    std::set<std::uintptr_t> slabs;
+    for (std::size_t i = 0; i < count; ++i)
+        slabs.insert(reinterpret_cast<std::uintptr_t>(pool.Allocate()) / slabSize);
+    return slabs;
+}
+
+TEST_F(SlabPoolTest, ReservedBlocksLieInOnePiece) {
+    pool.Reserve(manyBlocks);
+
+    auto const slabs = SlabsOf(pool, manyBlocks);
+
+    EXPECT_EQ(slabs.size(), 3U);
+    EXPECT_EQ(*slabs.rbegin() - *slabs.begin(), 2U);
+}
+
+TEST_F(SlabPoolTest, AReserveTakesWhatIsMissingOnly) {
+    pool.Reserve(manyBlocks);
+    void* const block = pool.Allocate();
+    pool.Allocate();
+    pool.Free(block);
+
+    pool.Reserve(2 * manyBlocks);
+    auto const slabs = SlabsOf(pool, 2 * manyBlocks);
+
+    EXPECT_EQ(slabs.size(), 5U);
 }
 
 TEST_F(SlabPoolTest, AnotherPoolsBlockIsNotOwned) {
