@@ -45,6 +45,49 @@ GtkSorter* NewNumberSorter() {
     return GTK_SORTER(sorters);
 }
 
+//! What draws a column: it has the signal "bind", which is raised for each row that comes into
+//! sight, as that of a GtkSignalListItemFactory is. (Such a one takes the widgets of list items.)
+struct Factory {
+    GType const type =
+        g_type_register_static_simple(G_TYPE_OBJECT, "ComparedFactory", sizeof(GObjectClass),
+                                      nullptr, sizeof(GObject), nullptr, G_TYPE_FLAG_FINAL);
+    guint const bind = g_signal_new("bind", type, G_SIGNAL_RUN_FIRST, 0, nullptr, nullptr,
+                                    g_cclosure_marshal_VOID__OBJECT, G_TYPE_NONE, 1, GetPartType());
+
+    Factory() { g_signal_set_va_marshaller(bind, type, g_cclosure_marshal_VOID__OBJECTv); }
+    static Factory const& Get() {
+        static Factory const factory;
+        return factory;
+    }
+};
+
+void BindLook(Item const& item, Canvas& canvas) {
+    auto const stressed = item.GetNumber() % 2 == 0;
+    canvas.Look(stressed, stressed);
+}
+
+void BindName(GObject*, Part const* part, Canvas* const* canvas) {
+    std::string_view const name = part->item->GetName();
+    (*canvas)->Text(static_cast<unsigned char>(name.front()), name.size());
+    BindLook(*part->item, **canvas);
+}
+
+void BindIconAndName(GObject* factory, Part const* part, Canvas* const* canvas) {
+    (*canvas)->Icon();
+    BindName(factory, part, canvas);
+}
+
+void BindNumber(GObject*, Part const* part, Canvas* const* canvas) {
+    (*canvas)->Number(part->item->GetNumber());
+    BindLook(*part->item, **canvas);
+}
+
+GObject* NewFactory(GCallback bind, Canvas** canvas) {
+    auto* const factory = G_OBJECT(g_object_new(Factory::Get().type, nullptr));
+    g_signal_connect(factory, "bind", bind, canvas);
+    return factory;
+}
+
 } // namespace
 
 Part* NewPart(Item* item) {
@@ -66,7 +109,11 @@ GtkTable::GtkTable(GListModel* model)
     , selection_(gtk_multi_selection_new(G_LIST_MODEL(g_object_ref(sorted_.Get()))))
     , byNameKey_(NewNameSorter())
     , byNameData_(NewDataSorter(ascending_))
-    , byNumber_(NewNumberSorter()) {
+    , byNumber_(NewNumberSorter())
+    , factories_{Ref(NewFactory(G_CALLBACK(BindIconAndName), &canvas_)),
+                 Ref(NewFactory(G_CALLBACK(BindNumber), &canvas_)),
+                 Ref(NewFactory(G_CALLBACK(BindName), &canvas_)),
+                 Ref(NewFactory(G_CALLBACK(BindNumber), &canvas_))} {
 }
 
 void GtkTable::Sort(Column column, bool ascending) {
@@ -129,23 +176,14 @@ void GtkTable::ClearSelection() {
     gtk_selection_model_unselect_all(GTK_SELECTION_MODEL(selection_.Get()));
 }
 
-//! What the factories of four columns ask when they bind a row that comes into sight.
 void GtkTable::Paint(std::size_t first, Canvas& canvas) {
+    canvas_ = &canvas;
+    auto const bind = Factory::Get().bind;
     for (auto row = first; row < first + rowsShown; ++row) {
         Ref<Part> const part(
             static_cast<Part*>(g_list_model_get_item(GetRows(), static_cast<guint>(row))));
-        auto const& item = *part.Get()->item;
-        canvas.Icon();
-        for (std::size_t column = 0; column < columnsShown; ++column) {
-            auto const bold = item.GetNumber() % 2 == 0;
-            if (column % 2 != 0) {
-                canvas.Number(item.GetNumber());
-            } else {
-                std::string_view const name = item.GetName();
-                canvas.Text(static_cast<unsigned char>(name.front()), name.size());
-            }
-            canvas.Look(bold, bold);
-        }
+        for (auto const& factory : factories_)
+            g_signal_emit(factory.Get(), bind, 0, part.Get());
     }
 }
 

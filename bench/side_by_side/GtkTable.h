@@ -7,6 +7,8 @@
 
 #include <gtk/gtk.h>
 
+#include <array>
+
 namespace zbbench {
 
 //! A reference to an object of GLib.
@@ -74,6 +76,8 @@ private:
     Ref<GtkSorter> const byNameKey_;  // Ascending
     Ref<GtkSorter> const byNameData_; // As ascending_ says
     Ref<GtkSorter> const byNumber_;
+    std::array<Ref<GObject>, columnsShown> const factories_;
+    Canvas* canvas_ = nullptr;    // Not owned; that which is painted on
     GtkSorter* sorter_ = nullptr; // Not owned; null: unsorted
     std::vector<Part*> handles_;  // Not owned: the model has them
 };

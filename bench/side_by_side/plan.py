@@ -14,13 +14,14 @@ class Contestant:
     colour: str
     marker: str
     breaks_ties: bool = True  # Rows with equal keys stand as those of the others do
+    has_rows: bool = True  # Keeps an object for each row
     scenes: tuple = ()  # Empty: all
     measures: tuple = ()  # Empty: all
 
 
 CONTESTANTS = (
     Contestant(OURS, "this library", "#111111", "D"),
-    Contestant("qt", "Qt, own model", "#2a7d2e", "o"),
+    Contestant("qt", "Qt, own model", "#2a7d2e", "o", has_rows=False),
     Contestant("qt-standard", "Qt, standard model", "#8fce6b", "o", breaks_ties=False),
     Contestant("gtk", "GTK, own model", "#1f5fa8", "s"),
     Contestant("gtk-store", "GTK, list store", "#86b8ea", "s"),
@@ -45,21 +46,21 @@ MEASURES = (
     Measure("start", "show", "start-up, empty",
             "In a process that has used nothing of the contestant before. The limit makes "
             "nothing."),
-    Measure("attach", "show", "build and attach",
-            "This library and the list store make an object for each row, the standard model "
-            "four. GTK's own model makes them when they are first asked for, Qt's makes none."),
+    Measure("attach", "show", "build, attach and read all",
+            "This library and GTK make an object for each row, the standard model four; Qt's own "
+            "model makes none. This library makes an index from data to rows as well."),
     Measure("bytes-unsorted", "show", "bytes a row, read once",
             "This library and GTK keep an object for a row, the standard model four with a copy of "
             "the data; Qt's own model keeps none. This library's include an index from data to "
             "rows; the others look rows up by halves, which needs items in the order of their "
-            "identities."),
+            "identities. The best peer is the best one that keeps objects."),
     Measure("sort-name", "show", "first sort by name",
             "The standard model has the proxy compare its copies of the texts regardless of case; "
             "equal ones stay as they stood. All others compare the data, and equal names by "
             "identity. GTK's string sorter asks each row for its text once and sorts keys of them. "
             "(With a custom sorter over the data it keeps a third less, and takes half as long "
             "again at a million rows.)"),
-    Measure("bytes-sorted", "show", "bytes a row, sorted"),
+    Measure("bytes-sorted", "show", "bytes a row, sorted", "The same."),
     Measure("sort-number", "sort-number", "first sort by number",
             "Equal numbers are ordered by name and then by identity, other than in the standard "
             "model, where they stay as they stood."),
@@ -68,8 +69,9 @@ MEASURES = (
             "long as the row (this library), an index that lasts until the next change (Qt), an "
             "object (GTK), a pointer (limit)."),
     Measure("paint-again", "show", "paint 50 by 4 cells again",
-            "Qt's texts are made from bytes at each call. GTK's models have rows but no cells: its "
-            "column factories read the object, and so does the limit."),
+            "Qt's texts are made from bytes at each call. In GTK each cell is bound by a signal of "
+            "its column's factory, as a column view does it, though without its widgets. The limit "
+            "reads the data."),
     Measure("paint-pages", "show", "paint the next 50 by 4 cells"),
     Measure("reverse", "show", "reverse and read all",
             "Qt and GTK sort again; GTK's sort finds the order reversed. Its string sorter has no "

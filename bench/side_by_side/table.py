@@ -7,6 +7,7 @@ from plan import CONTESTANTS, LIMITS, MEASURES, OURS, PEERS, is_memory
 
 AHEAD = 3.0  # Times the best peer...
 NEAR = 1.5  # ...or the limit times this
+SMALLER = 2.0  # In memory, times the best peer that keeps an object for each row
 UNITS = ((1.0, "s"), (1e-3, "ms"), (1e-6, "µs"), (1e-9, "ns"))
 
 
@@ -55,10 +56,13 @@ def cell(results, contestant, measure, rows):
 def comparison(results, measure, rows):
     """How many times the best peer takes what we do, how many times we take the limit; or None.
 
-    Where the time limit ended all peers, it stands for them.
+    Where the time limit ended all peers, it stands for them. In memory, only peers count that keep
+    an object for each row.
     """
     ours = median(results, OURS, measure, rows)
-    peer = best(results, PEERS, measure, rows)
+    peers = [each.name for each in CONTESTANTS if each.name in PEERS and
+             (each.has_rows or not is_memory(measure))]
+    peer = best(results, peers, measure, rows)
     if is_ended(results, measure, rows):
         peer = results.settings.limit
     limit = median(results, LIMITS[0], measure, rows)
@@ -69,10 +73,10 @@ def times(ratio):
     return "–" if ratio is None else f"{three_digits(ratio)}×"
 
 
-def verdict(ahead, behind):
-    if ahead is not None and ahead >= AHEAD or behind is not None and behind <= NEAR:
-        return "yes"
-    return "**no**"
+def verdict(measure, ahead, behind):
+    is_ahead = ahead is not None and ahead >= (SMALLER if is_memory(measure) else AHEAD)
+    is_near = behind is not None and behind <= NEAR
+    return "yes" if is_ahead or is_near else "**no**"
 
 
 def markdown_row(cells):
@@ -81,17 +85,16 @@ def markdown_row(cells):
 
 def size_table(results, rows):
     titles = ["", *(each.title for each in CONTESTANTS), "best peer / ours", "ours / limit",
-              f"{AHEAD:g}× or within {NEAR:g}"]
+              f"{AHEAD:g}× (memory {SMALLER:g}×) or within {NEAR:g}"]
     text = f"## {rows:,} rows\n\n".replace(",", " ") + markdown_row(titles)
     text += markdown_row(["---"] + ["---:"] * (len(titles) - 1))
     for number, measure in enumerate(MEASURES, 1):
         ahead, behind = comparison(results, measure, rows)
         at_least = "> " if is_ended(results, measure, rows) else ""
         cells = (cell(results, each.name, measure, rows) for each in CONTESTANTS)
-        mark = "" if is_memory(measure) else verdict(ahead, behind)
         reference = f" [{number}]" if measure.note else ""
         text += markdown_row([measure.title + reference, *cells, at_least + times(ahead),
-                              times(behind), mark])
+                              times(behind), verdict(measure, ahead, behind)])
     return text + "\n"
 
 
