@@ -60,6 +60,22 @@ void ItemThatNoFolderShows(benchmark::State& state) {
 }
 BENCHMARK(ItemThatNoFolderShows)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMicrosecond);
 
+// Nested folders
+
+//! Each folder stands in the one before, and all show the same ten items.
+void ItemInNestedFolders(benchmark::State& state) {
+    LightHost host(10);
+    zbIBrowserViewItemFreeFolder* folder = host.view.GetRootFreeFolder();
+    for (std::int64_t i = 0; i < state.range(0); ++i) {
+        host.view.CreateFreeFolder(folder, "folder");
+        folder = folder->FindChildFreeFolder("folder");
+        host.view.CreateList(folder, &host.source, false);
+    }
+    for (auto _ : state)
+        host.controller->OnDataItemSimpleUpdated(&host.source.Items().front());
+}
+BENCHMARK(ItemInNestedFolders)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
 // Sorted lists
 
 //! A sorted list, then what `prepare` answers is run and all rows are read once more.

@@ -266,13 +266,15 @@ public:
     //! \}
 
     //! \name 4. Data events and rebuilds
-    //! The controller calls these; see there for when a host reports what. Each event of the first
-    //! group is dropped, not queued, when it comes from within another. If a slot or host operation
-    //! throws from within one, the guard stays set and all later ones are dropped. So does the busy
-    //! mark of the folder that was at work and of those above it.
+    //! The controller calls these; see there for when a host reports what. Each event down to
+    //! OnDataItemsRebuildAll is dropped, not queued, when it comes from within another;
+    //! OnDataSourceRenumbered and the rebuilds and the redraw below it take place. If a slot or
+    //! host operation throws from within an event, the guard stays set and all later ones are
+    //! dropped. So does the busy mark of the folder that was at work and of those above it.
     //!
     //! An event reaches the folders one after the other, a folder before those in it. A busy folder
-    //! and all in it are passed over.
+    //! and all in it are passed over, save by OnDataSourceRenumbered; so are folders that are made
+    //! meanwhile.
     //!
     //! Requires: the data item is there, also one that is reported deleted, and its source is the
     //! same as long as it has rows. Null: no event.
@@ -281,6 +283,8 @@ public:
     //! \{
 
     //! Shows a new item in each folder that lists its source. The flag is not used.
+    //! Requires: its source contains it. It may otherwise be missing in the folders and views that
+    //! come after a slot has run, which ask the source first.
     //! Signals, for each folder: `ViewItemCreated(row)` unless the row is there;
     //! `ViewItemChanged(folder)`.
     void OnDataItemCreated(zbIBrowserDataItemHierarchical* const item, bool flag);
@@ -291,7 +295,8 @@ public:
     void OnDataItemDeleted(zbIBrowserDataItemHierarchical* const item);
     void OnDataItemDeleted(zbIBrowserDataItemSimple* const item);
     //! Signals: `ViewItemChanged(folder)` for each row of the item, by way of the controller's
-    //! `OnViewItemChanged`. None for the rows themselves.
+    //! `OnViewItemChanged`. None for the rows themselves, which keep their place in a sorted list
+    //! until one comes or goes there.
     void OnDataItemUpdated(zbIBrowserDataItemHierarchical* const item);
     void OnDataItemUpdated(zbIBrowserDataItemSimple* const item);
     //! Concerns trees, whose items are not built yet.
@@ -299,6 +304,8 @@ public:
                               zbIBrowserDataItemHierarchical* const newParent);
     //! Makes all rows anew, silently. Nothing is selected afterwards; the folders stay as they are.
     //! In a folder it ends with the first list whose source does not give its items.
+    //! Signals: if GetCurrentFilter names a source, `ViewItemShown` for each row that it lets
+    //! through, `ViewContentChanged(view)`, `ViewChanged(view)`.
     void OnDataItemsRebuildAll();
 
     //! The rows of all lists are sorted anew when they are next read, whatever the source is.
@@ -307,31 +314,40 @@ public:
 
     //! Signals: `ViewItemChanged(row)` for each row whose data item is dirty, those of a list
     //! within a long operation. These rows get their new place when the list is next read in
-    //! sorted form.
+    //! sorted form. Rows of items that their source contains no longer may be passed over.
     void OnAllDirtyDataItemsRebuild();
 
     //! Lists whose source is dirty lose the rows of items that have gone and get those of new ones;
     //! the other rows stay the same objects, with their place and selection. Child folders come
     //! before their folder, and then the rows of the folder and of all below it are refreshed as by
     //! OnAllDirtyDataItemsRebuild. No mark is taken back.
-    //! Signals, for each dirty list: those of DeleteViewItemList and CreateList, then
-    //! `ViewItemChanged` for each folder from this one up whose icon may depend on its data. For
-    //! each folder: `ViewContentChanged(view)` three times, dirty or not.
+    //! Signals, for each dirty list: those of DeleteViewItemList if rows go, `ViewItemCreated` for
+    //! each new row, `ViewItemChanged(folder)`; then `ViewItemChanged` for each folder from this
+    //! one up whose icon may depend on its data. For each folder: `ViewContentChanged(view)` three
+    //! times, dirty or not.
+    //! Failure: a list whose source does not give its items keeps its rows, without a signal; the
+    //! others are rebuilt all the same.
     void OnAllDirtyDataListsRebuild();
 
     //! Signals: in a folder with a dirty list, `ViewItemChanged` for every row of the folder, once
-    //! for each such list; for each folder `ViewContentChanged(view)` three times. Then the mark of
-    //! the list is taken back, so that a further folder with the same list finds it clean.
+    //! for each such list, whose mark is taken back then; a further folder with the same list finds
+    //! it clean. For each folder `ViewContentChanged(view)` three times, the first after the marks
+    //! of its flat lists were taken back.
     void RedrawAllDirtyDataLists(bool unused);
 
     //! The events above without their guard.
     void CreateDataDependentViewItems(bool silent);
+    //! Appends the row in each folder to `created`, the one that was there if there was one; null
+    //! where the list went before the row was made. Rows that a slot deletes meanwhile are left
+    //! out. `parents` stays as it is. For the item of a tree nothing is appended yet.
     void CreateDataDependentViewItems(zbIBrowserDataItemSimple* item,
                                       std::vector<zbIBrowserViewItem*>& created,
                                       std::vector<zbIBrowserViewItem*>& parents, bool flag);
     void CreateDataDependentViewItems(zbIBrowserDataItemHierarchical* item,
                                       std::vector<zbIBrowserViewItem*>& created,
                                       std::vector<zbIBrowserViewItem*>& parents, bool flag);
+    //! Unlike OnDataItemDeleted it leaves a row whose folder does not list the source of the item,
+    //! and no folder is reported as changed. Signals: `ViewItemDeleted(row)` unless `silent`.
     void DeleteDataDependentViewItems(zbIBrowserDataItemSimple* item, bool silent);
     void DeleteDataDependentViewItems(zbIBrowserDataItemHierarchical* item, bool silent);
 
@@ -369,6 +385,7 @@ public:
                                        bool withDescendants) const;
 
     //! Appends what the trees list below `items`, all levels. Items without a tree are passed over.
+    //! `out` stays as it is if the view is deleted meanwhile.
     void AppendDescendentDataItems(std::vector<zbIBrowserDataItemHierarchical*>& out,
                                    std::vector<zbIBrowserDataItemHierarchical*> const& items) const;
 
@@ -377,7 +394,7 @@ public:
                            std::vector<zbIBrowserDataSourceSimple*>& out);
 
     //! Appends each row of a data item to `found` and, at the same place, the item to be painted
-    //! anew when the row changes to `parents`.
+    //! anew when the row changes to `parents`. Rows in busy folders and below are not found.
     void GetDataDependentViewItems(zbIBrowserDataItemSimple* item,
                                    std::vector<zbIBrowserViewItem*>& found,
                                    std::vector<zbIBrowserViewItem*>& parents);
@@ -387,8 +404,9 @@ public:
 
     //! The data side selected these items. The rows of those whose source is connected to this view
     //! are selected, after all else has been deselected with `clear`, the folders around them are
-    //! expanded, and the host is asked to show the first row. Nothing happens while the sync flag
-    //! of the selection manager is false, nor from within itself or a data event.
+    //! expanded, and the host is asked to show the first row. Busy folders are not passed over.
+    //! Nothing happens while the sync flag of the selection manager is false, nor from within
+    //! itself or a data event.
     //! Signals: `ViewItemExpanded` for each folder, a folder before the one that it stands in;
     //! those of zbIBrowserSelectionManager::UpdateSelection; then `ShowViewItem` of the manager.
     void OnDataItemsSelected(std::vector<zbIBrowserDataItemSimple*> const& simple,
@@ -659,7 +677,10 @@ private:
                       std::vector<zbIBrowserViewItem*>& found,
                       std::vector<zbIBrowserViewItem*>& parents);
     void RaiseChanged(std::vector<zbIBrowserViewItem*> const& items);
+    //! The rows behind the first ones that a slot has deleted.
+    void DropGone(std::vector<zbIBrowserViewItem*>& items, std::size_t first) const;
     void RefreshFolders(zbBrowserViewItemFreeFolder& top);
+    void ApplyCurrentFilter();
 
     zbString name_;
     zbBrowserViewCtrl const* viewCtrl_;            // Not owned; null only in tests

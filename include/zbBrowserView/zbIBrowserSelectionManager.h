@@ -35,11 +35,12 @@ class zbIBrowserViewProperty;
 //!
 //! Ownership: the controller's. The pointer stays valid when the view goes, until the controller
 //! goes; without its view a manager is empty, tells nobody, and what asks the view answers false.
+//! That holds as soon as the view has been deleted, also in a slot of one of its operations.
 //!
-//! Cost: selecting, deselecting and asking for an item O(1); listing n selected items O(n) and a
-//! sort of the 64 KiB blocks of memory in which they lie. Old: a change also lists the data of all
-//! that is selected if anybody listens to `DataItemsGrouped` or `DataItemsSelectionSummary`, so
-//! select many items in one call.
+//! Cost: selecting or deselecting an item O(log rows), since a row is recognised first; asking for
+//! one O(1); listing n selected items O(n) and a sort of the 64 KiB blocks of memory in which they
+//! lie. Old: a change also lists the data of all that is selected if anybody listens to
+//! `DataItemsGrouped` or `DataItemsSelectionSummary`, so select many items in one call.
 class ZBBROWSERVIEW_API zbIBrowserSelectionManager : public zbBrowserErrorReporter {
 public:
     //! \name Changing the selection
@@ -57,8 +58,9 @@ public:
     //! With `clear`, also if nothing is selected: `SelectionClearing(view)`; the notifiers' \ref
     //! zbIBrowserSelectionNotifierBase::OnSelectionChanged with all that is selected and false;
     //! Old: `DataItemsSelectionChanging(dataCtrl, flat items, tree items, false)` if there are any.
-    //! The set is empty then. Old, if `items` is empty: `SelectionManagerChanged(dataCtrl,
-    //! manager)`. No `ViewItemsDeselected` is raised for what was cleared.
+    //! The set is empty then. Old, if `items` is empty or none of them is (still) of the view:
+    //! `SelectionManagerChanged(dataCtrl, manager)`. No `ViewItemsDeselected` is raised for what
+    //! was cleared.
     //!
     //! With `items`: Old: `DataItemsSelectionChanging(dataCtrl, flat items, tree items, select)` if
     //! there are any. The set changes. Each notifier's `OnSelectionChanged(items, select)` and
@@ -132,7 +134,8 @@ public:
     virtual bool GetSelectedDataItems(std::vector<zbIBrowserDataItemSimple*>& out,
                                       bool recursive) = 0;
 
-    //! The same four, without the items of other sources.
+    //! The same four, without the items of other sources. A flat item counts for the source that it
+    //! had when its row was made. Null: the items that have none.
     virtual bool GetSelectedDataItemsOfSource(zbIBrowserDataSourceHierarchical* source,
                                               std::set<zbIBrowserDataItemHierarchical*>& out,
                                               bool recursive) = 0;
@@ -171,27 +174,29 @@ public:
     //! New: the values of a property for all selected data items, folders' rows included, in the
     //! order of the items' addresses. Items without a data property for their source are passed
     //! over. The data control is told `SetCurrentDataItem` before each value is read; a value shows
-    //! as ToText of zbVariant.h says. Old: false.
+    //! as ToText of zbVariant.h says. Without a data control there is no text. Items whose rows go
+    //! meanwhile, and connections that end, are passed over, here and in the other forms.
+    //! Null: false, and `out` is empty. Old: false.
     virtual bool GetSelectedPropertyText(zbIBrowserViewProperty* property, zbString& out) = 0;
 
-    //! New: the same for the items of one source. False, and `out` untouched: the property has no
-    //! data property for the source. Old: false.
+    //! New: the same for the items of one source. False, and `out` untouched: the property is null
+    //! or has no data property for the source, as null has none. Old: false.
     virtual bool GetSelectedPropertyTextOfSource(zbIBrowserDataSource* source,
                                                  zbIBrowserViewProperty* property,
                                                  zbString& out) = 0;
 
     //! Old: the same from `GetString` of the data properties, for flat items and for tree items
     //! whose flat face is of that source. `list`: a value with a blank in it stands in braces,
-    //! "{left handed}". False, and `out` untouched: one of the properties has no data property for
-    //! the source. New: false.
+    //! "{left handed}". False, and `out` untouched: one of the properties is null or has no data
+    //! property for the source, as null has none. New: false.
     virtual bool GetSelectedPropertyTextOfSource(zbIBrowserDataSourceSimple* source,
                                                  zbIBrowserViewProperty* ofSimple,
                                                  zbIBrowserViewProperty* ofHierarchical,
                                                  zbString& out, bool list) = 0;
 
     //! Old: the same for the items of a tree; the data property is that for the type of each item.
-    //! False, and `out` untouched: one of the properties has no data property for the tree's own
-    //! type. New: false.
+    //! False, and `out` untouched: the tree or one of the properties is null, or one of them has no
+    //! data property for the tree's own type. New: false.
     virtual bool GetSelectedPropertyTextOfSource(zbIBrowserDataSourceHierarchical* source,
                                                  zbIBrowserViewProperty* ofSimple,
                                                  zbIBrowserViewProperty* ofHierarchical,
@@ -218,7 +223,8 @@ public:
     //! Old: null unless it is a row of a tree. New: null.
     virtual zbIBrowserDataItemHierarchical* GetDropDataItemHierarchical() const = 0;
     //! Old: the tree of a tree row; the attached object of a folder, which then must be a
-    //! zbIBrowserDataSource, or without one its first tree; null for a flat row. New: null.
+    //! zbIBrowserDataSource, or without one its first tree; null for a flat row and once the
+    //! view has disconnected that source. New: null.
     virtual zbIBrowserDataSource* GetDropDataSource() const = 0;
     virtual bool IsDropOnFreeFolder() const = 0;
 
@@ -237,7 +243,7 @@ public:
     //! `OnDataItemsDeselected`). Each UpdateSelection with items that gets as far as the notifiers
     //! sets it to true before they are told. Old: a notifier that sets it to false keeps
     //! `ViewItemsSelected` or `ViewItemsDeselected` of this one call from being raised; then it is
-    //! true again. True at first.
+    //! true again, also if a notifier or slot throws. True at first.
     virtual void SetSyncFlag(bool sync) = 0;
     virtual bool GetSyncFlag() const = 0;
 

@@ -297,7 +297,7 @@ public:
     //! "false" for those that are not chosen. `out` is not cleared. New: does nothing.
     virtual void GetFilterMapNames(zbString& out) const = 0;
 
-    //! May be null.
+    //! The same one always, never null. It outlives the view; see there.
     virtual zbIBrowserSelectionManager* GetSelectionManager() const = 0;
 
     //! \name Collector

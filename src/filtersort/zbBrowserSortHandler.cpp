@@ -79,9 +79,7 @@ bool zbBrowserSortHandler::SortDataItems(Items& items, std::size_t sorted, SortB
         return true;
     }
     CallScope const scope(oldContext_.Lifetime());
-    if (items.size() >= 2 && !column->IsDefault())
-        TakeSortProperty(*column);
-    auto now = BasisOf(*column);
+    auto now = TakeBasis(*column, items.size());
     RowSort sort(oldContext_, *this, now.property);
     auto const order = column->IsDefault() ? RowOrder::Default : RowOrder::Column;
     if (items.size() >= 2 && !sort.Run(items, basis == now ? sorted : 0, order))
@@ -90,11 +88,19 @@ bool zbBrowserSortHandler::SortDataItems(Items& items, std::size_t sorted, SortB
     return true;
 }
 
-SortBasis zbBrowserSortHandler::BasisOf(zbIBrowserViewColumn const& column) const {
+bool zbBrowserSortHandler::IsCurrent(SortBasis const& basis, std::size_t rows) const {
+    auto const* const column = GetSortedColumn();
+    return column != nullptr && basis == TakeBasis(*column, rows);
+}
+
+SortBasis zbBrowserSortHandler::TakeBasis(zbIBrowserViewColumn const& column,
+                                          std::size_t rows) const {
     SortBasis basis;
     basis.orderNumber = OrderNumber();
     if (column.IsDefault())
         return basis;
+    if (rows >= 2)
+        TakeSortProperty(column);
     basis.property = CurrentSortProperty();
     if (basis.property != nullptr)
         basis.property->GetConnections(basis.connections);

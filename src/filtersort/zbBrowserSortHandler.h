@@ -38,6 +38,8 @@ public:
     //! The same if the first `sorted` rows are still in the order of `basis`, which is brought up
     //! to date. They are sorted again only if they have to be.
     bool SortDataItems(Items& items, std::size_t sorted, zbbrowser::detail::SortBasis& basis);
+    //! Whether it would leave so many rows alone that are all still in the order of `basis`.
+    bool IsCurrent(zbbrowser::detail::SortBasis const& basis, std::size_t rows) const;
 
     //! The two lists of a dependent folder. The first item stands for all: its source is told the
     //! property by which it compares. Under the default column that is the one of
@@ -69,7 +71,9 @@ private:
     //! The lists of a dependent folder, whose flat items are found in two ways.
     using FlatItem = zbIBrowserDataItemSimple* (*)(zbIBrowserViewItem const&);
     bool SortPrepared(Items& items, FlatItem flatItem, RowOrder custom, RowOrder plain);
-    zbbrowser::detail::SortBasis BasisOf(zbIBrowserViewColumn const& column) const;
+    //! By what so many rows are sorted under a column, whose sort property is taken.
+    zbbrowser::detail::SortBasis TakeBasis(zbIBrowserViewColumn const& column,
+                                           std::size_t rows) const;
     void PrepareCustomProperty(zbIBrowserDataSourceSimple* source) const;
     static void PrepareColumnProperty(zbIBrowserDataSourceSimple* source);
 

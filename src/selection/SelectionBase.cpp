@@ -34,9 +34,13 @@ void SelectionBase::LoseView() {
     context_ = nullptr;
 }
 
+bool SelectionBase::HasView() const {
+    return context_ != nullptr && context_->IsAlive();
+}
+
 // A slot may change the list that it finds in the hands of the caller.
 void SelectionBase::UpdateSelection(Items const& items, bool select, bool clear) {
-    if (context_ == nullptr)
+    if (!HasView())
         return;
     Items own;
     own.reserve(items.size());
@@ -47,7 +51,7 @@ void SelectionBase::UpdateSelection(Items const& items, bool select, bool clear)
 }
 
 void SelectionBase::UpdatePreviousSelection() {
-    if (context_ == nullptr)
+    if (!HasView())
         return;
     CallScope const scope(context_->Lifetime());
     if (!context_->IsHeard(&zbBrowserSignalManager::ViewItemsSelected))
@@ -85,14 +89,14 @@ bool SelectionBase::GetSelectedFreeFolders(std::set<zbIBrowserViewItemFreeFolder
 
 bool SelectionBase::GetSelectedFreeFolders(std::vector<zbIBrowserViewItemFreeFolder*>& out) {
     out.clear();
-    return context_ != nullptr && context_->View().GetFreeFoldersFromViewItems(Selected(), out);
+    return HasView() && context_->View().GetFreeFoldersFromViewItems(Selected(), out);
 }
 
 // Drop item
 
 void SelectionBase::SetDropItem(zbIBrowserViewItem* item) {
     ResetDropItem();
-    if (context_ == nullptr || !context_->Owns(item))
+    if (!HasView() || !context_->Owns(item))
         return;
     CallScope const scope(context_->Lifetime());
     dropItem_ = item;
@@ -108,7 +112,7 @@ void SelectionBase::ResetDropItem() {
 // Notifiers
 
 void SelectionBase::AddNotifier(Notifier* notifier) {
-    if (notifier != nullptr && context_ != nullptr)
+    if (notifier != nullptr && HasView())
         notifiers_.insert(notifier);
 }
 
@@ -132,7 +136,7 @@ void SelectionBase::ForEachNotifier(Call call) {
 }
 
 void SelectionBase::OnPopupSelection(bool flag) {
-    if (context_ == nullptr)
+    if (!HasView())
         return;
     CallScope const scope(context_->Lifetime());
     ForEachNotifier([flag](Notifier& notifier) { notifier.OnPopupSelection(flag); });
@@ -140,16 +144,24 @@ void SelectionBase::OnPopupSelection(bool flag) {
 
 // The steps of Update
 
-SelectionBase::Items SelectionBase::AnnounceClearing() {
+SelectionBase::Items SelectionBase::AnnounceClearing(std::size_t retiredBefore) {
     context_->Raise(&zbBrowserSignalManager::SelectionClearing, &context_->View());
     auto cleared = Selected();
     ForEachNotifier([&](Notifier& n) { n.OnSelectionChanged(cleared, false); });
-    EraseGone(cleared);
+    EraseGone(cleared, retiredBefore);
     return cleared;
 }
 
-void SelectionBase::EraseGone(Items& items) const {
-    if (context_->Lifetime().HasHostRun())
+// The host may remove items while it is asked for its signals, which is not noted as a run of it.
+bool SelectionBase::MayHaveLost(std::size_t retiredBefore) const {
+    auto const& lifetime = context_->Lifetime();
+    return lifetime.HasHostRun() || lifetime.RetiredCount() != retiredBefore;
+}
+
+void SelectionBase::EraseGone(Items& items, std::size_t retiredBefore) const {
+    if (!HasView())
+        items.clear();
+    else if (MayHaveLost(retiredBefore))
         std::erase_if(items, [&](auto const* item) { return !context_->Owns(item); });
 }
 
@@ -161,8 +173,10 @@ bool SelectionBase::MakesDifference(Items const& items, bool select) const {
     });
 }
 
-void SelectionBase::Change(Items const& items, bool select) {
-    auto const mayHaveLeft = context_->Lifetime().HasHostRun();
+void SelectionBase::Change(Items const& items, bool select, std::size_t retiredBefore) {
+    if (!HasView())
+        return;
+    auto const mayHaveLeft = MayHaveLost(retiredBefore);
     for (auto* const item : items) {
         if (!select)
             selected_.Erase(item);

@@ -18,7 +18,8 @@ class ViewContext;
 //! The set of selected items, the notifiers, the sync flag and the place of a drag. What only one
 //! generation offers is answered here as the other one answers it.
 //!
-//! It outlives its view: LoseView empties it, and from then on there is no context to ask.
+//! It outlives its view: ForgetAll empties it when the view is given up, and from LoseView on there
+//! is no context to ask.
 class SelectionBase : public zbIBrowserSelectionManager {
 public:
     using Items = std::vector<zbIBrowserViewItem*>;
@@ -130,24 +131,29 @@ public:
     //! \}
 
 protected:
-    //! Null once the view has gone.
-    ViewContext* Context() const { return context_; }
+    //! False once the view has been given up, also while operations of it are still running.
+    bool HasView() const;
+    //! Requires: HasView(), or an open CallScope from when it was so.
+    ViewContext& Context() const { return *context_; }
     Items Selected() const;
     zbIBrowserViewItem* DropItem() const { return dropItem_; }
 
     //! \name The steps of Update
-    //! Each may call the host, unless said otherwise. Requires: a view and an open CallScope.
+    //! Each may call the host, unless said otherwise. `retiredBefore`: RetiredCount() of the
+    //! lifetime when the update began, to see what has left the view since.
+    //! Requires: a view and an open CallScope.
     //! \{
 
     //! Tells that the selection is about to be cleared. Answers what was selected, less what has
     //! left the view meanwhile.
-    Items AnnounceClearing();
-    //! Takes out what a slot or notifier made leave the view. Calls nobody.
-    void EraseGone(Items& items) const;
+    Items AnnounceClearing(std::size_t retiredBefore);
+    //! Takes out what has left the view meanwhile: all, if the view has been given up. Calls
+    //! nobody.
+    void EraseGone(Items& items, std::size_t retiredBefore) const;
     //! Calls nobody.
     bool MakesDifference(Items const& items, bool select) const;
     //! Items that have left the view meanwhile are deselected only. Calls nobody.
-    void Change(Items const& items, bool select);
+    void Change(Items const& items, bool select, std::size_t retiredBefore);
     void Notify(Items const& items, bool select, bool finished);
     void RaiseChange(Items& items, bool select);
     //! \}
@@ -161,11 +167,12 @@ protected:
     //! \}
 
 private:
+    bool MayHaveLost(std::size_t retiredBefore) const;
     //! Calls each notifier, until the view has been given up.
     template <class Call>
     void ForEachNotifier(Call call);
 
-    ViewContext* context_; // Not owned; null once the view has gone
+    ViewContext* context_; // Not owned; null once the view has been freed
     ItemSet selected_;
     std::set<Notifier*, std::less<Notifier*>> notifiers_; // Not owned, never null
     zbIBrowserViewItem* dropItem_ = nullptr;              // Not owned; may be null

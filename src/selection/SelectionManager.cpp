@@ -19,21 +19,23 @@ SelectionManager::SelectionManager(detail::NewViewContext& context)
 }
 
 void SelectionManager::Update(Items items, bool select, bool clear) {
-    if (Context() == nullptr)
+    if (!HasView())
         return;
-    CallScope const scope(Context()->Lifetime());
+    auto& lifetime = Context().Lifetime();
+    CallScope const scope(lifetime);
+    auto const retiredBefore = lifetime.RetiredCount();
     lastSelect_ = select;
     if (clear) {
-        AnnounceClearing();
+        AnnounceClearing(retiredBefore);
         ClearAll();
-        EraseGone(items);
+        EraseGone(items, retiredBefore);
     }
     if (!MakesDifference(items, select))
         return;
     changed_.Clear();
     for (auto* const item : items)
         changed_.Insert(item);
-    Change(items, select);
+    Change(items, select, retiredBefore);
     SetSyncFlag(true);
     Notify(items, select, true);
     RaiseChange(items, select);
@@ -54,11 +56,11 @@ void SelectionManager::ForgetItem(zbIBrowserViewItem const& item) {
 }
 
 void SelectionManager::OnSelectionChangeFinished() {
-    if (Context() == nullptr)
+    if (!HasView())
         return;
-    CallScope const scope(Context()->Lifetime());
-    Context()->RaiseData(&zbBrowserDataSignalManager::SelectionManagerChanged,
-                         Context()->DataCtrl(), this);
+    CallScope const scope(Context().Lifetime());
+    Context().RaiseData(&zbBrowserDataSignalManager::SelectionManagerChanged, Context().DataCtrl(),
+                        this);
 }
 
 bool SelectionManager::GetChangedViewItems(Items& out) {
@@ -70,45 +72,51 @@ bool SelectionManager::GetChangedViewItems(Items& out) {
 // A row without groups or rows above it has no ancestors in its folder.
 bool SelectionManager::GetSelectedDataSources(std::set<zbIBrowserDataSource*>& out, bool) {
     out.clear();
-    if (Context() == nullptr)
+    if (!HasView())
         return false;
-    CallScope const scope(Context()->Lifetime());
-    out = detail::DataSourcesOf(*Context(), Selected());
+    CallScope const scope(Context().Lifetime());
+    out = detail::DataSourcesOf(Context(), Selected());
     return !out.empty();
 }
 
 bool SelectionManager::GetSelectedPropertyText(zbIBrowserViewProperty* property, zbString& out) {
-    return CollectText(nullptr, property, out);
+    out.clear();
+    return HasView() && property != nullptr && CollectText(nullptr, *property, out);
 }
 
 bool SelectionManager::GetSelectedPropertyTextOfSource(zbIBrowserDataSource* source,
                                                        zbIBrowserViewProperty* property,
                                                        zbString& out) {
-    return source != nullptr && property != nullptr &&
-           property->GetDataProperty(source) != nullptr && CollectText(source, property, out);
+    return HasView() && property != nullptr && property->GetDataProperty(source) != nullptr &&
+           CollectText(source, *property, out);
 }
 
-bool SelectionManager::CollectText(zbIBrowserDataSource* source, zbIBrowserViewProperty* property,
-                                   zbString& out) {
-    out.clear();
-    if (Context() == nullptr || property == nullptr)
-        return false;
-    CallScope const scope(Context()->Lifetime());
+bool SelectionManager::CollectText(zbIBrowserDataSource const* source,
+                                   zbIBrowserViewProperty& property, zbString& out) {
+    CallScope const scope(Context().Lifetime());
     detail::SelectedText text(false);
-    for (auto* const item : detail::DataItemsOf(*Context(), Selected())) {
-        auto* const itsSource = item->GetDataSource();
-        auto* const ctrl = Context()->DataCtrl();
-        auto* const dataProperty = property->GetDataProperty(itsSource);
-        if (ctrl == nullptr || dataProperty == nullptr ||
-            (source != nullptr && itsSource != source))
-            continue;
-        ctrl->SetCurrentDataItem(item);
-        zbVariant value;
-        if (dataProperty->GetVariant(value))
-            text.Append(ToText(value));
-    }
+    detail::ForEachDataItemOf(Context(), Selected(), [&](zbIBrowserDataItem& item) {
+        AppendValue(text, item, source, property);
+    });
     out = text.Take();
     return !out.empty();
+}
+
+// The control may change connections and delete the view, so the data property is looked up behind
+// it again.
+void SelectionManager::AppendValue(detail::SelectedText& text, zbIBrowserDataItem& item,
+                                   zbIBrowserDataSource const* source,
+                                   zbIBrowserViewProperty& property) const {
+    auto* const itsSource = item.GetDataSource();
+    auto* const ctrl = Context().DataCtrl();
+    if (ctrl == nullptr || (source != nullptr && itsSource != source) ||
+        property.GetDataProperty(itsSource) == nullptr)
+        return;
+    ctrl->SetCurrentDataItem(&item);
+    auto* const dataProperty = HasView() ? property.GetDataProperty(itsSource) : nullptr;
+    zbVariant value;
+    if (dataProperty != nullptr && dataProperty->GetVariant(value))
+        text.Append(ToText(value));
 }
 
 } // namespace zbbrowser

@@ -9,7 +9,8 @@ namespace zbbrowser {
 
 namespace detail {
 class NewViewContext;
-}
+class SelectedText;
+} // namespace detail
 
 //! Remembers which items the last change named and tells nothing to the data side.
 class SelectionManager final : public detail::SelectionBase {
@@ -37,7 +38,10 @@ protected:
 
 private:
     //! Source null: of all sources.
-    bool CollectText(zbIBrowserDataSource* source, zbIBrowserViewProperty* property, zbString& out);
+    bool CollectText(zbIBrowserDataSource const* source, zbIBrowserViewProperty& property,
+                     zbString& out);
+    void AppendValue(detail::SelectedText& text, zbIBrowserDataItem& item,
+                     zbIBrowserDataSource const* source, zbIBrowserViewProperty& property) const;
 
     detail::ItemSet changed_; // The items of the last change that made a difference
     bool lastSelect_ = false;

@@ -15,58 +15,81 @@ zbBrowserSelectionManager::zbBrowserSelectionManager(OldViewContext& context)
     : SelectionBase(context) {
 }
 
-zbBrowserView* zbBrowserSelectionManager::OldView() const {
-    auto* const context = static_cast<OldViewContext*>(Context());
-    return context == nullptr ? nullptr : &context->OldView();
+zbBrowserView& zbBrowserSelectionManager::OldView() const {
+    return static_cast<OldViewContext&>(Context()).OldView();
 }
 
 zbIBrowserDataCtrl* zbBrowserSelectionManager::DataCtrl() const {
-    return Context()->DataCtrl();
+    return Context().DataCtrl();
 }
 
 void zbBrowserSelectionManager::Update(Items items, bool select, bool clear) {
-    if (Context() == nullptr)
+    if (!HasView())
         return;
-    CallScope const scope(Context()->Lifetime());
+    auto& lifetime = Context().Lifetime();
+    CallScope const scope(lifetime);
+    auto const retiredBefore = lifetime.RetiredCount();
     if (clear) {
-        TellChanging(AnnounceClearing(), false);
+        TellChanging(AnnounceClearing(retiredBefore), false);
         ClearAll();
-        EraseGone(items);
+        EraseGone(items, retiredBefore);
         if (items.empty())
-            Context()->RaiseData(&zbBrowserDataSignalManager::SelectionManagerChanged, DataCtrl(),
-                                 this);
+            Context().RaiseData(&zbBrowserDataSignalManager::SelectionManagerChanged, DataCtrl(),
+                                this);
     }
     if (items.empty())
         return;
     auto const makesDifference = MakesDifference(items, select);
     if (makesDifference) {
         TellChanging(items, select);
-        Change(items, select);
+        Change(items, select, retiredBefore);
     }
-    SetSyncFlag(true);
-    Notify(items, select, makesDifference);
-    if (GetSyncFlag())
-        RaiseChange(items, select);
-    SetSyncFlag(true);
+    TellViews(items, select, makesDifference);
     if (makesDifference)
         TellSummary();
 }
 
+namespace {
+
+//! The sync flag is true when the telling begins, and again however it ends.
+class SyncFlagOn {
+public:
+    explicit SyncFlagOn(zbBrowserSelectionManager& manager)
+        : manager_(manager) {
+        manager_.SetSyncFlag(true);
+    }
+    SyncFlagOn(SyncFlagOn const&) = delete;
+    SyncFlagOn& operator=(SyncFlagOn const&) = delete;
+    ~SyncFlagOn() { manager_.SetSyncFlag(true); }
+
+private:
+    zbBrowserSelectionManager& manager_;
+};
+
+} // namespace
+
+void zbBrowserSelectionManager::TellViews(Items& items, bool select, bool finished) {
+    SyncFlagOn const syncFlagOn(*this);
+    Notify(items, select, finished);
+    if (GetSyncFlag())
+        RaiseChange(items, select);
+}
+
 void zbBrowserSelectionManager::TellChanging(Items const& items, bool select) {
-    if (!Context()->IsHeard(&zbBrowserDataSignalManager::DataItemsSelectionChanging))
+    if (!Context().IsHeard(&zbBrowserDataSignalManager::DataItemsSelectionChanging))
         return;
     std::vector<zbIBrowserDataItemSimple*> simple;
     std::vector<zbIBrowserDataItemHierarchical*> hierarchical;
-    OldView()->GetDataItemsFromViewItems(items, simple, true);
-    OldView()->GetDataItemsFromViewItems(items, hierarchical, true);
+    OldView().GetDataItemsFromViewItems(items, simple, true);
+    OldView().GetDataItemsFromViewItems(items, hierarchical, true);
     if (!simple.empty() || !hierarchical.empty())
-        Context()->RaiseData(&zbBrowserDataSignalManager::DataItemsSelectionChanging, DataCtrl(),
-                             simple, hierarchical, select);
+        Context().RaiseData(&zbBrowserDataSignalManager::DataItemsSelectionChanging, DataCtrl(),
+                            simple, hierarchical, select);
 }
 
 // What a slot of the first signal did meanwhile counts for the second.
 void zbBrowserSelectionManager::TellSummary() {
-    auto& context = *Context();
+    auto& context = Context();
     auto const tellsGroups =
         DataCtrl() != nullptr && context.IsHeard(&zbBrowserDataSignalManager::DataItemsGrouped);
     if (tellsGroups) {
@@ -92,17 +115,17 @@ void zbBrowserSelectionManager::TellSummary() {
 }
 
 void zbBrowserSelectionManager::OnSelectionChangeFinished() {
-    if (Context() == nullptr)
+    if (!HasView())
         return;
-    auto& context = *Context();
+    auto& context = Context();
     CallScope const scope(context.Lifetime());
     context.RaiseData(&zbBrowserDataSignalManager::SelectionChangeFinished, DataCtrl());
     context.RaiseData(&zbBrowserDataSignalManager::SelectionManagerChanged, DataCtrl(), this);
 }
 
 bool zbBrowserSelectionManager::GetViewName(zbString& out) const {
-    out = OldView() == nullptr ? zbString() : OldView()->GetName();
-    return OldView() != nullptr;
+    out = HasView() ? OldView().GetName() : zbString();
+    return HasView();
 }
 
 // Drop item
@@ -110,12 +133,15 @@ bool zbBrowserSelectionManager::GetViewName(zbString& out) const {
 // A row of a tree comes before a flat row, since it has a flat data item as well.
 void zbBrowserSelectionManager::OnDropItemSet(zbIBrowserViewItem& item) {
     if (item.IsDataContainer() && item.GetDataItemHierarchical() != nullptr) {
-        drop_.hierarchical = item.GetDataItemHierarchical();
-        drop_.source = drop_.hierarchical->GetDataSource();
+        auto* const dataItem = item.GetDataItemHierarchical();
+        drop_.hierarchical = dataItem;
+        auto* const source = dataItem->GetDataSource();
+        if (DropItem() == &item) // Else it has gone meanwhile
+            drop_.source = source;
     } else if (item.IsDataLeaf() && item.GetDataItemSimple() != nullptr) {
         drop_.simple = item.GetDataItemSimple();
         drop_.simpleItem = &item;
-    } else if (auto* const folder = OldView()->FindFreeFolder(&item); folder != nullptr) {
+    } else if (auto* const folder = OldView().FindFreeFolder(&item); folder != nullptr) {
         std::vector<zbIBrowserDataSourceHierarchical*> trees;
         folder->GetTrees(trees);
         if (folder->GetAttachedObject() != nullptr)
@@ -138,6 +164,11 @@ void zbBrowserSelectionManager::ResetDropItem() {
 void zbBrowserSelectionManager::ClearSelected() {
     SelectionBase::ClearSelected();
     drop_ = {};
+}
+
+void zbBrowserSelectionManager::ForgetSource(zbIBrowserDataSource const& source) {
+    if (drop_.source == &source)
+        drop_.source = nullptr;
 }
 
 bool zbBrowserSelectionManager::RemembersAny() const {

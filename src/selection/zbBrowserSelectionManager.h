@@ -6,6 +6,7 @@
 #include "selection/SelectionBase.h"
 
 class zbBrowserView;
+class zbBrowserViewItemDataLeaf;
 
 namespace zbbrowser::detail {
 class OldViewContext;
@@ -18,6 +19,8 @@ public:
     explicit zbBrowserSelectionManager(zbbrowser::detail::OldViewContext& context);
 
     void Update(Items items, bool select, bool clear) override;
+    //! A source has been disconnected: the host may free it.
+    void ForgetSource(zbIBrowserDataSource const& source);
 
     using SelectionBase::GetSelectedDataSources;
     using SelectionBase::GetSelectedPropertyTextOfSource;
@@ -89,11 +92,13 @@ private:
         zbIBrowserViewItem const* simpleItem = nullptr;         // Compared only; that of `simple`
     };
 
-    //! Null once the view has gone.
-    zbBrowserView* OldView() const;
+    //! As Context().
+    zbBrowserView& OldView() const;
     zbIBrowserDataCtrl* DataCtrl() const;
     void TellChanging(Items const& items, bool select);
+    void TellViews(Items& items, bool select, bool finished);
     void TellSummary();
+    //! Requires: an open CallScope.
     SelectedData CollectData(bool recursive) const;
     template <class Source, class DataItem>
     bool CollectSources(std::set<Source*>& out,
@@ -101,8 +106,13 @@ private:
                         DataItem* (zbIBrowserViewItem::*ofRow)() const) const;
     template <class DataItem>
     bool CollectItems(std::vector<DataItem*>& out, bool recursive) const;
-    template <class DataItem, class Source>
-    bool CollectItemsOf(Source* source, std::vector<DataItem*>& out, bool recursive) const;
+    //! Calls nobody. Requires: a view.
+    std::vector<zbBrowserViewItemDataLeaf*> SelectedLeavesOf(zbIBrowserDataSource const* source,
+                                                             bool recursive) const;
+    void CollectItemsOf(zbIBrowserDataSourceSimple const* source,
+                        std::vector<zbIBrowserDataItemSimple*>& out, bool recursive) const;
+    bool CollectItemsOf(zbIBrowserDataSourceHierarchical const* source,
+                        std::vector<zbIBrowserDataItemHierarchical*>& out, bool recursive) const;
 
     Drop drop_;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The data behind the selection: items, sources and values.
+#include "items/old/zbBrowserViewItemDataLeaf.h"
 #include "items/old/zbBrowserViewItemFreeFolder.h"
 #include "selection/SelectedText.h"
 #include "selection/zbBrowserSelectionManager.h"
@@ -11,7 +12,10 @@
 #include <zbBrowserView/zbBrowserView.h>
 #include <zbBrowserView/zbIBrowserViewProperty.h>
 
+#include <algorithm>
+
 using zbbrowser::detail::CallScope;
+using zbbrowser::detail::OldViewContext;
 using zbbrowser::detail::SelectedText;
 
 // Items
@@ -27,7 +31,7 @@ zbBrowserSelectionManager::CollectData(bool recursive) const {
         else
             rows.push_back(item); // Groups, whose rows go to `bySource`, join here
     }
-    auto const& view = *OldView();
+    auto const& view = OldView();
     view.GetDataItemsFromViewItems(rows, data.simple, recursive);
     view.GetDataItemsFromViewItems(rows, data.hierarchical, recursive);
     view.GetDataItemsFromViewItems(folders, data.inFolders, recursive);
@@ -38,24 +42,63 @@ zbBrowserSelectionManager::CollectData(bool recursive) const {
 bool zbBrowserSelectionManager::GetSelectedDataItems(
     zbBrowserDataItemMap& bySource, std::vector<zbIBrowserDataItemSimple*>& simple,
     std::vector<zbIBrowserDataItemHierarchical*>& hierarchical, bool recursive) {
-    auto data = OldView() == nullptr ? SelectedData() : CollectData(recursive);
+    bySource.clear();
+    simple.clear();
+    hierarchical.clear();
+    if (!HasView())
+        return false;
+    CallScope const scope(Context().Lifetime());
+    auto data = CollectData(recursive);
     bySource = std::move(data.bySource);
     simple = std::move(data.simple);
     hierarchical = std::move(data.hierarchical);
-    return OldView() != nullptr;
+    return true;
 }
 
 template <class DataItem>
 bool zbBrowserSelectionManager::CollectItems(std::vector<DataItem*>& out, bool recursive) const {
     out.clear();
-    return OldView() != nullptr && OldView()->GetDataItemsFromViewItems(Selected(), out, recursive);
+    return HasView() && OldView().GetDataItemsFromViewItems(Selected(), out, recursive);
 }
 
-template <class DataItem, class Source>
-bool zbBrowserSelectionManager::CollectItemsOf(Source* source, std::vector<DataItem*>& out,
+std::vector<zbBrowserViewItemDataLeaf*>
+zbBrowserSelectionManager::SelectedLeavesOf(zbIBrowserDataSource const* source,
+                                            bool recursive) const {
+    auto const& context = static_cast<OldViewContext&>(Context());
+    std::vector<zbBrowserViewItemDataLeaf*> leaves;
+    auto const append = [&](zbIBrowserViewItem const* row) {
+        if (auto* const leaf = context.FindLeaf(row); leaf != nullptr && leaf->IsOf(source))
+            leaves.push_back(leaf);
+    };
+    for (auto const* const item : Selected()) {
+        Items rows;
+        if (auto const* const folder = context.FindFolder(item); folder != nullptr)
+            folder->GetAllViewItems(rows, recursive);
+        append(item);
+        std::for_each(rows.begin(), rows.end(), append);
+    }
+    return leaves;
+}
+
+void zbBrowserSelectionManager::CollectItemsOf(zbIBrowserDataSourceSimple const* source,
+                                               std::vector<zbIBrowserDataItemSimple*>& out,
                                                bool recursive) const {
+    out.clear();
+    if (!HasView())
+        return;
+    for (auto const* const leaf : SelectedLeavesOf(source, recursive))
+        out.push_back(leaf->GetDataItemSimple());
+}
+
+bool zbBrowserSelectionManager::CollectItemsOf(zbIBrowserDataSourceHierarchical const* source,
+                                               std::vector<zbIBrowserDataItemHierarchical*>& out,
+                                               bool recursive) const {
+    out.clear();
+    if (!HasView())
+        return false;
+    CallScope const scope(Context().Lifetime());
     auto const answer = CollectItems(out, recursive);
-    std::erase_if(out, [source](DataItem const* item) { return item->GetDataSource() != source; });
+    std::erase_if(out, [source](auto const* item) { return item->GetDataSource() != source; });
     return answer;
 }
 
@@ -124,15 +167,15 @@ bool zbBrowserSelectionManager::CollectSources(
     bool (zbIBrowserViewItemFreeFolder::*ofFolder)(std::vector<Source*>&) const,
     DataItem* (zbIBrowserViewItem::*ofRow)() const) const {
     out.clear();
-    if (Context() == nullptr)
+    if (!HasView())
         return false;
-    CallScope const scope(Context()->Lifetime());
+    CallScope const scope(Context().Lifetime());
     for (auto const* const item : Selected()) {
         std::vector<Source*> sources;
-        if (zbIBrowserViewItemFreeFolder const* const folder = OldView()->FindFreeFolder(item);
+        if (zbIBrowserViewItemFreeFolder const* const folder = OldView().FindFreeFolder(item);
             folder != nullptr)
             (folder->*ofFolder)(sources);
-        else if (auto const* const data = Context()->Owns(item) ? (item->*ofRow)() : nullptr;
+        else if (auto const* const data = Context().Owns(item) ? (item->*ofRow)() : nullptr;
                  data != nullptr)
             sources.push_back(data->GetDataSource());
         out.insert(sources.begin(), sources.end());
@@ -194,16 +237,15 @@ void AppendValues(SelectedText& text, zbIBrowserViewProperty* property,
 bool zbBrowserSelectionManager::GetSelectedPropertyTextOfSource(
     zbIBrowserDataSourceSimple* source, zbIBrowserViewProperty* ofSimple,
     zbIBrowserViewProperty* ofHierarchical, zbString& out, bool list) {
-    auto* const property = DataPropertyOf(ofSimple, source);
-    if (OldView() == nullptr || property == nullptr ||
+    if (!HasView() || DataPropertyOf(ofSimple, source) == nullptr ||
         DataPropertyOf(ofHierarchical, source) == nullptr)
         return false;
-    CallScope const scope(Context()->Lifetime());
+    CallScope const scope(Context().Lifetime());
     SelectedText text(list);
-    std::vector<zbIBrowserDataItemSimple*> flat;
-    CollectItemsOf(source, flat, true);
-    for (auto* const item : flat)
-        AppendValue(text, property, item, nullptr);
+    for (auto const* const leaf : SelectedLeavesOf(source, true)) {
+        if (Context().Owns(leaf)) // Else it has gone while another value was read
+            AppendValue(text, DataPropertyOf(ofSimple, source), leaf->GetDataItemSimple(), nullptr);
+    }
     std::vector<zbIBrowserDataItemHierarchical*> ofTrees;
     CollectItems(ofTrees, true);
     std::erase_if(ofTrees, [source](zbIBrowserDataItemHierarchical const* item) {
@@ -218,11 +260,13 @@ bool zbBrowserSelectionManager::GetSelectedPropertyTextOfSource(
 bool zbBrowserSelectionManager::GetSelectedPropertyTextOfSource(
     zbIBrowserDataSourceHierarchical* source, zbIBrowserViewProperty* ofSimple,
     zbIBrowserViewProperty* ofHierarchical, zbString& out, bool list) {
-    auto* const ownType = source == nullptr ? nullptr : source->GetOwnType();
-    if (OldView() == nullptr || DataPropertyOf(ofSimple, ownType) == nullptr ||
+    if (!HasView() || source == nullptr)
+        return false;
+    CallScope const scope(Context().Lifetime());
+    auto* const ownType = source->GetOwnType();
+    if (DataPropertyOf(ofSimple, ownType) == nullptr ||
         DataPropertyOf(ofHierarchical, ownType) == nullptr)
         return false;
-    CallScope const scope(Context()->Lifetime());
     SelectedText text(list);
     std::vector<zbIBrowserDataItemHierarchical*> items;
     CollectItemsOf(source, items, true);

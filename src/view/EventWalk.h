@@ -8,17 +8,20 @@
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
 #include "view/OldViewContext.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace zbbrowser::detail {
 
 //! Gives an event to each folder that is not busy, the holders being made where they are missing.
-//! The folder is busy while it and the folders below it work on the event.
+//! The folder is busy while it and the folders below it work on the event. Folders that a slot
+//! makes meanwhile do not hear it: it would not end if there were one more for each that has heard.
 //! Requires: an open CallScope.
 template <class Event>
 void WalkContents(zbBrowserViewItemFreeFolder& top, Event event) {
+    auto const made = top.Context().FoldersMade();
     auto const enter = [&](zbBrowserViewItemFreeFolder& folder) {
-        if (folder.IsBusy())
+        if (folder.IsBusy() || folder.Place().Number() >= made)
             return false;
         folder.SetBusy(true);
         event(folder.RequireHolder());
@@ -27,40 +30,74 @@ void WalkContents(zbBrowserViewItemFreeFolder& top, Event event) {
     WalkFolders(top, enter, [](zbBrowserViewItemFreeFolder& folder) { folder.SetBusy(false); });
 }
 
-//! Makes the holders that such a walk would make. Nothing to do as long as no folder is new.
-inline void RequireHolders(zbBrowserViewItemFreeFolder& root) {
+//! Makes the holders that a walk over all folders would make which goes into those for which
+//! `isEntered` holds. Nothing to do as long as no folder is new.
+template <class IsEntered>
+void RequireHolders(zbBrowserViewItemFreeFolder& root, IsEntered isEntered) {
     if (root.Context().AllFoldersHaveHolders())
         return;
-    WalkFolders(root, [](zbBrowserViewItemFreeFolder& folder) {
-        if (!folder.IsBusy())
-            folder.RequireHolder();
-        return !folder.IsBusy();
+    WalkFolders(root, [&](zbBrowserViewItemFreeFolder& folder) {
+        if (!isEntered(folder))
+            return false;
+        folder.RequireHolder();
+        return true;
     });
 }
 
-//! A folder and those above it, marked as busy. The marks stay where an exception passes.
+//! The folder that is at work and those above it, marked as busy. From one folder to the next only
+//! the difference is marked and unmarked, so that in the order of a walk all folders together cost
+//! what the walk does. The marks stay where an exception passes while a folder is at work.
 class BusyPath {
 public:
-    //! False, and none is marked, if one of them is busy.
+    BusyPath() = default;
+    BusyPath(BusyPath const&) = delete;
+    BusyPath& operator=(BusyPath const&) = delete;
+    ~BusyPath() {
+        if (!isAtWork_)
+            Unmark(0);
+    }
+
+    //! The folder is at work from now on. False if it or one above it is busy without being marked
+    //! here. Requires: none is at work.
     bool Enter(zbBrowserViewItemFreeFolder& folder) {
-        folders_.clear();
-        for (auto* place = &folder; place != nullptr; place = place->Owner()) {
-            if (place->IsBusy())
+        if (busy_ != nullptr && folder.Place().IsWithin(*busy_))
+            return false;
+        auto* above = &folder;
+        for (; above != nullptr && !Holds(*above); above = above->Owner()) {
+            if (above->IsBusy()) {
+                busy_ = &above->Place();
                 return false;
-            folders_.push_back(place);
+            }
         }
-        Mark(true);
+        Unmark(above == nullptr ? 0 : DepthOf(*above) + 1);
+        folders_.resize(DepthOf(folder) + 1);
+        for (auto* place = &folder; place != above; place = place->Owner()) {
+            folders_[DepthOf(*place)] = place;
+            place->SetBusy(true);
+        }
+        isAtWork_ = true;
         return true;
     }
-    void Leave() { Mark(false); }
+    //! It has done its work.
+    void Leave() { isAtWork_ = false; }
 
 private:
-    void Mark(bool busy) {
-        for (auto* const folder : folders_)
-            folder->SetBusy(busy);
+    using Folder = zbBrowserViewItemFreeFolder;
+
+    static std::size_t DepthOf(Folder const& folder) { return folder.Place().Depth(); }
+    bool Holds(Folder const& folder) const {
+        return DepthOf(folder) < folders_.size() && folders_[DepthOf(folder)] == &folder;
+    }
+    //! Those from this depth on.
+    void Unmark(std::size_t depth) {
+        for (auto i = depth; i < folders_.size(); ++i)
+            folders_[i]->SetBusy(false);
+        folders_.resize(std::min(depth, folders_.size()));
     }
 
-    std::vector<zbBrowserViewItemFreeFolder*> folders_;
+    std::vector<Folder*> folders_;      // From the root down
+    FolderPlace const* busy_ = nullptr; // One that others have marked
+    bool isAtWork_ = false;
 };
 
 //! WalkContents for an event that only concerns the folders of one source: the others are not
@@ -68,12 +105,14 @@ private:
 template <class Event>
 void VisitContents(zbBrowserViewItemFreeFolder& root, zbIBrowserDataSource const* source,
                    Event event) {
-    RequireHolders(root);
+    RequireHolders(root,
+                   [](zbBrowserViewItemFreeFolder const& folder) { return !folder.IsBusy(); });
+    auto const made = root.Context().FoldersMade();
     auto const& folders = root.Context().Folders();
     BusyPath path;
     for (auto* folder = folders.Next(source, nullptr); folder != nullptr;
          folder = folders.Next(source, folder)) {
-        if (!path.Enter(*folder))
+        if (folder->Place().Number() >= made || !path.Enter(*folder))
             continue;
         event(folder->RequireHolder());
         path.Leave();

@@ -8,6 +8,7 @@
 #include "view/HandlerSeams.h"
 #include "view/ViewContext.h"
 
+#include <cstdint>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -34,6 +35,9 @@ public:
     zbBrowserView& OldView() const { return oldView_; }
     HandlerSeams& Handlers() { return handlers_; }
     SlabPool& LeafMemory() { return leafMemory_; }
+    //! False once the whole view goes: the leaves own nothing, and their memory goes with it.
+    bool FreesLeaves() const { return !isEnding_; }
+    void NoteEnd() { isEnding_ = true; }
 
     //! The folder of this view behind an interface pointer; null if there is none. The pointer is
     //! compared and not followed, so anything may be asked about.
@@ -58,6 +62,9 @@ public:
     void RegisterFolder(zbBrowserViewItemFreeFolder& folder);
     void UnregisterFolder(zbBrowserViewItemFreeFolder const& folder);
     std::size_t FolderCount() const { return folders_.size(); }
+    //! Folders are numbered in the order in which they are made.
+    std::uint64_t NextFolderNumber() { return foldersMade_++; }
+    std::uint64_t FoldersMade() const { return foldersMade_; }
 
     //! \name Content of folders
     //! \{
@@ -71,8 +78,10 @@ private:
     zbBrowserView& oldView_;
     HandlerSeams handlers_;
     SlabPool leafMemory_;
+    bool isEnding_ = false;
     std::unordered_map<zbIBrowserViewItem const*, zbBrowserViewItemFreeFolder*> folders_;
     FolderIndex folderIndex_;
+    std::uint64_t foldersMade_ = 0;
     std::size_t holders_ = 0;
 };
 

@@ -123,6 +123,7 @@ void View::LetGo() {
     dataCtrl_ = nullptr;
     connectedSources_.clear();
     connectedReferences_.clear();
+    context_->Selection().ForgetAll();
 }
 
 zbString const& View::GetName() const {

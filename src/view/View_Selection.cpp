@@ -109,11 +109,10 @@ bool View::GetDataItemsFromViewItems(Items const& items, std::set<zbIBrowserData
 }
 
 bool View::GetDataItemsFromViewItems(Items const& items, std::set<zbIBrowserDataItem*>& out,
-                                     zbIBrowserDataSource* const source, bool recursive) const {
-    auto const answer = GetDataItemsFromViewItems(items, out, recursive);
-    std::erase_if(out,
-                  [source](auto const* dataItem) { return dataItem->GetDataSource() != source; });
-    return answer;
+                                     zbIBrowserDataSource* const source, bool) const {
+    CallScope const scope(context_->Lifetime());
+    out = detail::DataItemsOf(*context_, items, source);
+    return !items.empty();
 }
 
 bool View::GetDataSourcesFromViewItems(Items const& items, std::set<zbIBrowserDataSource*>& out,

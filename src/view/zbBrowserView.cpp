@@ -88,6 +88,7 @@ void zbBrowserView::CleanUp() {
     if (isCopy_)
         return;
     context_->Selection().ForgetAll();
+    context_->NoteEnd();
     delete root_;
     root_ = nullptr;
     context_->SetColumns(nullptr);
@@ -112,6 +113,7 @@ void zbBrowserView::LetGo() {
     dataCtrl_ = nullptr;
     sources_->simple.Clear();
     sources_->hierarchical.Clear();
+    context_->Selection().ForgetAll();
     root_->LetGo();
 }
 

@@ -10,6 +10,8 @@
 #include <zbBrowserView/host/zbIBrowserDataItemSimple.h>
 #include <zbBrowserView/zbBrowserView.h>
 
+#include <algorithm>
+
 using zbbrowser::detail::CallScope;
 using zbbrowser::detail::DetachedLeaves;
 using zbbrowser::detail::HostBracket;
@@ -116,7 +118,19 @@ void zbBrowserView::OnDataItemsRebuildAll() {
             holder.ForEach([](zbBrowserFreeFolderContent& c) { c.DeleteAllDependent(); });
         });
         CreateDataDependentViewItems(true);
+        ApplyCurrentFilter();
     });
+}
+
+void zbBrowserView::ApplyCurrentFilter() {
+    std::vector<zbIBrowserDataSourceSimple*> sources;
+    GetCurrentFilter(sources);
+    if (sources.empty())
+        return;
+    context_->Selection().ClearAll();
+    root_->ApplyFilter();
+    context_->Raise(&zbBrowserSignalManager::ViewContentChanged, this);
+    context_->Raise(&zbBrowserSignalManager::ViewChanged, this);
 }
 
 void zbBrowserView::OnDataSourceRenumbered(zbIBrowserDataSourceSimple*) {
@@ -182,17 +196,30 @@ void zbBrowserView::CreateDataDependentViewItems(zbIBrowserDataItemSimple* item,
     if (item == nullptr)
         return;
     CallScope const scope(context_->Lifetime());
+    auto const createdBefore = created.size();
     auto* const source = item->GetDataSource();
     auto const runsBefore = context_->Lifetime().HostRuns();
+    auto const hasHostRun = [&] { return context_->Lifetime().HostRuns() != runsBefore; };
     // A slot may have deleted the data item meanwhile.
     auto const isStillThere = [&](zbBrowserFreeFolderContentHolder& holder) {
-        return context_->Lifetime().HostRuns() == runsBefore ||
+        return !hasHostRun() ||
                (holder.FindList(source) != nullptr && source->ContainsDataItem(item));
     };
     VisitContents(*root_, source, [&](zbBrowserFreeFolderContentHolder& holder) {
         if (isStillThere(holder))
             holder.OnDataItemCreated(item, created, parents);
     });
+    if (hasHostRun())
+        DropGone(created, createdBefore);
+}
+
+void zbBrowserView::DropGone(Items& items, std::size_t first) const {
+    auto const begin = items.begin() + static_cast<std::ptrdiff_t>(std::min(first, items.size()));
+    items.erase(std::remove_if(begin, items.end(),
+                               [this](zbIBrowserViewItem const* item) {
+                                   return item != nullptr && !context_->Owns(item);
+                               }),
+                items.end());
 }
 
 // Each folder asks anew whether the item is to be shown.
@@ -208,13 +235,16 @@ void zbBrowserView::CreateDataDependentViewItems(zbIBrowserDataItemHierarchical*
     });
 }
 
-// The source is asked for once, while the item surely lives.
+// The item is asked for its source once, while it surely lives: a slot may free it when its row in
+// another folder goes.
 void zbBrowserView::DeleteDataDependentViewItems(zbIBrowserDataItemSimple* item, bool silent) {
     if (item == nullptr)
         return;
     CallScope const scope(context_->Lifetime());
-    VisitContents(*root_, item->GetDataSource(), [&](zbBrowserFreeFolderContentHolder& holder) {
-        holder.ForEach([&](zbBrowserFreeFolderContent& c) { c.OnDataItemDeleted(item, silent); });
+    auto const* const source = item->GetDataSource();
+    VisitContents(*root_, source, [&](zbBrowserFreeFolderContentHolder& holder) {
+        holder.ForEach(
+            [&](zbBrowserFreeFolderContent& c) { c.OnDataItemDeleted(item, source, silent); });
     });
 }
 

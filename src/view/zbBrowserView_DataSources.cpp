@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Data control and data sources.
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
+#include "selection/zbBrowserSelectionManager.h"
 #include "view/ConnectedSources.h"
 #include "view/OldViewContext.h"
 
@@ -21,6 +22,16 @@ Source* FindByName(PointerList<Source> const& sources, char const* name) {
     if (name == nullptr)
         return nullptr;
     return sources.FindIf([name](Source* s) { return StrICmp(s->GetName(), name) == 0; });
+}
+
+// A source that a slot or another source has disconnected meanwhile has been told already.
+template <class Source>
+void Disconnect(PointerList<Source>& sources, Source* source,
+                zbBrowserSelectionManager& selection) {
+    if (!sources.Remove(source))
+        return;
+    selection.ForgetSource(*source);
+    source->OnDisconnected();
 }
 
 } // namespace
@@ -72,8 +83,7 @@ bool zbBrowserView::DataSourceDisconnect(char const* name) {
     CallScope const scope(context_->Lifetime());
     auto const disconnect = [this](auto& sources, auto* source) {
         RemoveContentOf(*source);
-        if (sources.Remove(source))
-            source->OnDisconnected();
+        Disconnect(sources, source, *GetSelectionManagerPtr());
         return true;
     };
     if (auto* const simple = GetDataSourceSimple(name); simple != nullptr)
@@ -83,15 +93,13 @@ bool zbBrowserView::DataSourceDisconnect(char const* name) {
     return false;
 }
 
-// A source that a slot or another source disconnects meanwhile has been told already.
 bool zbBrowserView::DataSourceDisconnectAll(bool removeContent) {
     CallScope const scope(context_->Lifetime());
     auto const disconnect = [&](auto& sources) {
         for (auto* const source : sources.Snapshot()) {
             if (removeContent && sources.Contains(source))
                 RemoveContentOf(*source);
-            if (sources.Remove(source))
-                source->OnDisconnected();
+            Disconnect(sources, source, *GetSelectionManagerPtr());
         }
     };
     disconnect(sources_->simple);

@@ -12,12 +12,10 @@
 #include <map>
 #include <unordered_map>
 
-using zbbrowser::detail::BusyPath;
 using zbbrowser::detail::CallScope;
 using zbbrowser::detail::FolderIndex;
 using zbbrowser::detail::RequireHolders;
 using zbbrowser::detail::VisitContents;
-using zbbrowser::detail::WalkContents;
 using zbbrowser::detail::WalkFolders;
 
 using Items = std::vector<zbIBrowserViewItem*>;
@@ -90,11 +88,13 @@ void zbBrowserView::AppendDescendentDataItems(TreeItems& out, TreeItems const& i
     TreeItems found;
     for (auto* const item : items) {
         auto* const tree = item == nullptr ? nullptr : item->GetDataSource();
-        if (tree == nullptr)
-            continue;
-        context_->Lifetime().NoteHostRun();
         TreeItems below;
-        tree->GetChildren(item, below, nullptr, true);
+        if (tree != nullptr && context_->IsAlive()) {
+            context_->Lifetime().NoteHostRun();
+            tree->GetChildren(item, below, nullptr, true);
+        }
+        if (!context_->IsAlive())
+            return; // The other items may have gone with the view
         found.insert(found.end(), below.begin(), below.end());
     }
     out.insert(out.end(), found.begin(), found.end());
@@ -133,9 +133,10 @@ void zbBrowserView::GetDataDependentViewItems(zbIBrowserDataItemHierarchical* it
     });
 }
 
+// Nobody is called on the way, so a busy folder answers as any other.
 Items zbBrowserView::ItemsOf(ItemsBySource const& simple, TreeItems const& hierarchical,
                              Items& parents) {
-    RequireHolders(*root_);
+    RequireHolders(*root_, [](zbBrowserViewItemFreeFolder const&) { return true; });
     Items found;
     AppendRowsOf(simple, found, parents);
     if (hierarchical.empty())
@@ -143,8 +144,9 @@ Items zbBrowserView::ItemsOf(ItemsBySource const& simple, TreeItems const& hiera
     Items ofTrees;
     std::set<zbIBrowserDataItemHierarchical*> const wanted(hierarchical.begin(),
                                                            hierarchical.end());
-    WalkContents(*root_, [&](zbBrowserFreeFolderContentHolder& holder) {
-        holder.WithTree().GetViewItemsFromDataSet(wanted, ofTrees, parents);
+    WalkFolders(*root_, [&](zbBrowserViewItemFreeFolder& folder) {
+        folder.RequireHolder().WithTree().GetViewItemsFromDataSet(wanted, ofTrees, parents);
+        return true;
     });
     found.insert(found.end(), ofTrees.begin(), ofTrees.end());
     return found;
@@ -161,10 +163,7 @@ void zbBrowserView::AppendRowsOf(ItemsBySource const& simple, Items& found, Item
         for (auto* const folder : folders)
             wanted[folder].push_back(&items);
     }
-    BusyPath path;
     for (auto const& [folder, lists] : wanted) {
-        if (!path.Enter(*folder))
-            continue;
         SimpleItems joined;
         for (std::size_t i = 0; lists.size() > 1 && i < lists.size(); ++i)
             joined.insert(joined.end(), lists[i]->begin(), lists[i]->end());
@@ -172,7 +171,6 @@ void zbBrowserView::AppendRowsOf(ItemsBySource const& simple, Items& found, Item
         folder->RequireHolder().ForEach([&](zbBrowserFreeFolderContent& content) {
             content.GetViewItems(items, found, parents);
         });
-        path.Leave();
     }
 }
 
@@ -183,6 +181,8 @@ zbBrowserView::ItemsBySource zbBrowserView::ConnectedItems(SimpleItems const& it
     std::unordered_map<zbIBrowserDataSourceSimple const*, std::size_t> places;
     std::size_t place = 0; // Items of one source mostly come together
     for (auto* const item : items) {
+        if (!context_->IsAlive())
+            return {};
         auto const* const source = item == nullptr ? nullptr : item->GetDataSource();
         if (GetDataSourceSimple(source) == nullptr)
             continue;
@@ -199,6 +199,8 @@ zbBrowserView::ItemsBySource zbBrowserView::ConnectedItems(SimpleItems const& it
 TreeItems zbBrowserView::ConnectedItems(TreeItems const& items, bool first) const {
     TreeItems connected;
     for (auto* const item : items) {
+        if (!context_->IsAlive())
+            return {};
         if (item == nullptr || GetDataSourceHierarchical(item->GetDataSource()) == nullptr)
             continue;
         connected.push_back(item);
@@ -211,8 +213,10 @@ TreeItems zbBrowserView::ConnectedItems(TreeItems const& items, bool first) cons
 void zbBrowserView::OnDataItemsSelected(SimpleItems const& simple, TreeItems const& hierarchical,
                                         bool clear) {
     CallScope const scope(context_->Lifetime());
-    if (context_->Selection().GetSyncFlag())
-        DataItemsSelected(ConnectedItems(simple), ConnectedItems(hierarchical, false), clear);
+    if (!context_->Selection().GetSyncFlag())
+        return;
+    auto const connected = ConnectedItems(simple);
+    DataItemsSelected(connected, ConnectedItems(hierarchical, false), clear);
 }
 
 void zbBrowserView::OnDataItemsSelected(TreeItems const& items, bool clear, bool first) {
@@ -224,8 +228,10 @@ void zbBrowserView::OnDataItemsSelected(TreeItems const& items, bool clear, bool
 void zbBrowserView::OnDataItemsDeselected(SimpleItems const& simple,
                                           TreeItems const& hierarchical) {
     CallScope const scope(context_->Lifetime());
-    if (context_->Selection().GetSyncFlag())
-        DataItemsDeselected(ConnectedItems(simple), ConnectedItems(hierarchical, false));
+    if (!context_->Selection().GetSyncFlag())
+        return;
+    auto const connected = ConnectedItems(simple);
+    DataItemsDeselected(connected, ConnectedItems(hierarchical, false));
 }
 
 void zbBrowserView::OnDataItemsSelected(std::vector<zbIBrowserDataItem*> const&, bool, bool) {
@@ -246,7 +252,9 @@ void zbBrowserView::DataItemsSelected(ItemsBySource const& simple, TreeItems con
         Items parents;
         auto found = ItemsOf(simple, hierarchical, parents);
         ExpandAscendants(found, parents);
-        if (context_->Lifetime().HasHostRun())
+        // The host may also remove items while it is asked for its signals.
+        auto const& lifetime = context_->Lifetime();
+        if (lifetime.HasHostRun() || lifetime.RetiredCount() > 0)
             std::erase_if(found, [this](auto const* item) { return !context_->Owns(item); });
         context_->Selection().Update(found, true, clear);
         auto* const manager = context_->IsAlive() ? context_->Manager() : nullptr;

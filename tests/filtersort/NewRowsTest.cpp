@@ -115,6 +115,40 @@ TEST_F(NewRows, ANewRowAfterAReportedChangeSortsAllRowsAnew) {
     EXPECT_THAT(Rows(), ElementsAre("bolt", "gear", "nut", "pin", "zip"));
 }
 
+TEST_F(NewRows, ARowThatGoesAfterAReportedChangeHasTheChangedOneSortedAnew) {
+    SortBy(standard);
+    Rows();
+    part["axle"].Rename("zip");
+    host.Controller().OnDataItemSimpleUpdated(&part["zip"]);
+
+    view.OnDataItemDeleted(&part["bolt"]);
+
+    EXPECT_THAT(Rows(), ElementsAre("nut", "pin", "zip"));
+}
+
+TEST_F(NewRows, ARowThatGoesAfterARedrawHasAllRowsSortedAnew) {
+    SortBy(standard);
+    Rows();
+    part["axle"].Rename("zip");
+    part.dirty = true;
+    view.RedrawAllDirtyDataLists(true);
+
+    view.OnDataItemDeleted(&part["bolt"]);
+
+    EXPECT_THAT(Rows(), ElementsAre("nut", "pin", "zip"));
+}
+
+TEST_F(NewRows, ARowThatGoesAfterAnotherConnectionHasAllRowsSortedAnew) {
+    SortBy(byWeight);
+    Rows();
+    view.DeleteVPConnect(&Property("weight"), &part);
+    Bind("weight", part, "name");
+
+    view.OnDataItemDeleted(&part["bolt"]);
+
+    EXPECT_THAT(Rows(), ElementsAre("axle", "nut", "pin"));
+}
+
 TEST_F(NewRows, ANewRowAfterARedrawSortsAllRowsAnew) {
     SortBy(standard);
     Rows();
@@ -146,6 +180,16 @@ TEST_F(NewRows, RenumberingASourceSortsAnew) {
     part["axle"].Rename("zip");
 
     view.OnDataSourceRenumbered(&part);
+
+    EXPECT_THAT(Rows(), ElementsAre("bolt", "nut", "pin", "zip"));
+}
+
+TEST_F(NewRows, RenumberingATreeSortsAllListsAnew) {
+    SortBy(standard);
+    Rows();
+    part["axle"].Rename("zip");
+
+    view.OnDataSourceRenumbered(&host.Tree("assembly", part));
 
     EXPECT_THAT(Rows(), ElementsAre("bolt", "nut", "pin", "zip"));
 }

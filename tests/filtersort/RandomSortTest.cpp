@@ -24,6 +24,7 @@ public:
     void Add(RecordingItem& item) { stored_.push_back(&item); }
     void Remove(RecordingItem const& item) {
         std::erase(stored_, &item);
+        hasLost_ = true;
         inOrder_.erase(&item);
         changed_.erase(&item);
     }
@@ -38,7 +39,7 @@ public:
 
     template <class Less>
     void Sort(Less less) {
-        if (inOrder_.size() == stored_.size())
+        if (!std::exchange(hasLost_, false) && inOrder_.size() == stored_.size())
             return;
         for (auto const* const item : std::exchange(changed_, {}))
             inOrder_.erase(item);
@@ -53,6 +54,7 @@ private:
     std::vector<RecordingItem*> stored_;
     std::set<RecordingItem const*> inOrder_;
     std::set<RecordingItem const*> changed_;
+    bool hasLost_ = false;
 };
 
 //! The folder "box" shows the sources part and tool. Names and weights come from a few values, and

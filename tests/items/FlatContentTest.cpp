@@ -183,7 +183,7 @@ TEST_F(FlatContentTest, ACreatedNullIsFalse) {
 
 TEST_F(FlatContentTest, ADeletedItemLosesItsRow) {
     Show(folder, part);
-    content.OnDataItemDeleted(&part["nut"], false);
+    content.OnDataItemDeleted(&part["nut"], &part, false);
 
     EXPECT_THAT(Rows(folder), ElementsAre("bolt", "pin"));
     EXPECT_THAT(recorder.take(), ElementsAre("ViewItemDeleted nut"));
@@ -191,7 +191,7 @@ TEST_F(FlatContentTest, ADeletedItemLosesItsRow) {
 
 TEST_F(FlatContentTest, ADeletedItemLosesItsRowSilentlyWhenToldSo) {
     Show(folder, part);
-    content.OnDataItemDeleted(&part["nut"], true);
+    content.OnDataItemDeleted(&part["nut"], &part, true);
 
     EXPECT_THAT(Rows(folder), ElementsAre("bolt", "pin"));
     EXPECT_THAT(recorder.take(), IsEmpty());
@@ -201,7 +201,7 @@ TEST_F(FlatContentTest, TheRowOfADeletedItemIsStillInTheFolderWhenItIsSignalled)
     Show(folder, part);
     recorder.Once(&zbBrowserSignalManager::ViewItemDeleted,
                   [&](auto*) { EXPECT_THAT(Rows(folder), ElementsAre("bolt", "nut", "pin")); });
-    content.OnDataItemDeleted(&part["nut"], false);
+    content.OnDataItemDeleted(&part["nut"], &part, false);
 
     EXPECT_EQ(recorder.Count("ViewItemDeleted"), 1U);
     recorder.Discard();
@@ -209,8 +209,8 @@ TEST_F(FlatContentTest, TheRowOfADeletedItemIsStillInTheFolderWhenItIsSignalled)
 
 TEST_F(FlatContentTest, DeletingAnItemThatHasNoRowDoesNothing) {
     Show(folder, part);
-    content.OnDataItemDeleted(&tool["saw"], false);
-    content.OnDataItemDeleted(nullptr, false);
+    content.OnDataItemDeleted(&tool["saw"], &part, false);
+    content.OnDataItemDeleted(nullptr, &part, false);
 
     EXPECT_THAT(Rows(folder), ElementsAre("bolt", "nut", "pin"));
     EXPECT_THAT(recorder.take(), IsEmpty());
@@ -384,7 +384,7 @@ TEST_F(OutOfStepTest, CreationGoesOnWithoutLooking) {
 }
 
 TEST_F(OutOfStepTest, ADeletedItemKeepsItsRow) {
-    content.OnDataItemDeleted(&part["nut"], false);
+    content.OnDataItemDeleted(&part["nut"], &part, false);
 
     EXPECT_EQ(folder.GetChildrenCount(), 4U);
     EXPECT_THAT(recorder.take(), IsEmpty());

@@ -289,6 +289,28 @@ TEST_F(LeafStoreTest, AChangedLeafCountsAsOrderedAndComesBehindTheOthersAllTheSa
     EXPECT_EQ(store.AppendOrderedFirst(sorted), 2U);
 }
 
+TEST_F(LeafStoreTest, ALeafThatGoesEndsTheOrderAndTheOthersKeepTheirPlaces) {
+    auto& a = Append(1);
+    auto& b = Append(2);
+    store.Reorder({&b, &a});
+
+    store.Take(b);
+
+    EXPECT_FALSE(store.IsOrdered());
+    EXPECT_TRUE(store.AreInPlace());
+    store.NoteOrdered();
+    EXPECT_TRUE(store.IsOrdered());
+}
+
+TEST_F(LeafStoreTest, LeavesAreNotInPlaceWhileOneIsNewOrHasChanged) {
+    auto& a = Append(1);
+    EXPECT_FALSE(store.AreInPlace());
+    store.Reorder({&a});
+    EXPECT_TRUE(store.AreInPlace());
+    store.NoteChanged(a);
+    EXPECT_FALSE(store.AreInPlace());
+}
+
 TEST_F(LeafStoreTest, LeavesThatLostTheirPlaceAreKnownWhenHolesAreClosed) {
     Items order(200);
     for (std::size_t i = 0; i < order.size(); ++i)

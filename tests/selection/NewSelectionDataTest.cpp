@@ -10,6 +10,8 @@
 
 #include <zbBrowserView/zbIBrowserViewProperty.h>
 
+#include <algorithm>
+#include <array>
 #include <deque>
 
 namespace zbtest {
@@ -44,9 +46,42 @@ class NewSelectionData : public testing::Test {
 protected:
     //! A selected row of a new item with this value of "size".
     void SelectRow(RecordingSource& source, char const* name, zbVariant value) {
-        auto& item = source.Add(name).Set("size", std::move(value));
+        SelectRow(source.Add(name).Set("size", std::move(value)));
+    }
+    void SelectRow(RecordingItem& item) {
         auto& node = nodes_.emplace_back(&view, &item);
         manager.UpdateSelection({&node}, true, false);
+    }
+    //! Two selected rows of part and one of tool, in the order of the addresses of their items.
+    std::array<RecordingItem*, 3> SelectThree() {
+        std::array items{&part.Add("bolt"), &part.Add("nut"), &tool.Add("saw")};
+        std::sort(items.begin(), items.end(), std::less<>());
+        for (auto* const item : items)
+            SelectRow(item->Set("size", item->Name().c_str()));
+        Connect(part);
+        Connect(tool);
+        return items;
+    }
+    //! The rows are none of the view any more.
+    void TakeAllRowsOut() {
+        for (auto& node : nodes_)
+            node.view = nullptr;
+    }
+    void GiveTheViewUp() {
+        context_.Lifetime().GiveUp(nullptr, [](void*) {});
+    }
+    //! The values that were read, by the names of their items.
+    [[nodiscard]] std::vector<std::string> ValuesRead() {
+        host.calls.Record(true);
+        static_cast<void>(Text());
+        auto lines = host.calls.take();
+        std::erase_if(lines, [](std::string const& line) { return !line.starts_with("size.Get"); });
+        return lines;
+    }
+    [[nodiscard]] Items Rows() {
+        Items rows;
+        manager.GetSelectedViewItems(rows);
+        return rows;
     }
     void Connect(RecordingSource& source) {
         view.CreateVPConnect(&property, static_cast<zbIBrowserDataSource*>(&source),
@@ -54,6 +89,9 @@ protected:
     }
     [[nodiscard]] std::set<zbIBrowserDataItem*> DataOf(Items const& items) const {
         return zbbrowser::detail::DataItemsOf(context_, items);
+    }
+    [[nodiscard]] std::set<zbIBrowserDataItem*> DataOf(RecordingSource const& source) {
+        return zbbrowser::detail::DataItemsOf(context_, Rows(), &source);
     }
     [[nodiscard]] std::string Text() {
         zbString text = "before";
@@ -147,8 +185,31 @@ TEST_F(NewSelectionData, ItemsWithoutADataPropertyForTheirSourceArePassedOver) {
     Connect(tool);
     SelectRow(part, "bolt", "M6");
     SelectRow(tool, "saw", "fine");
+    host.calls.Record(true);
 
     EXPECT_EQ(Text(), "fine");
+
+    EXPECT_THAT(host.calls.take(),
+                ElementsAre("data.SetCurrentDataItem saw", "size.GetVariant saw"));
+}
+
+TEST_F(NewSelectionData, TheOrderOfTheAddressesIsNotThatOfTheSelection) {
+    auto items = std::array{&part.Add("bolt"), &part.Add("nut"), &part.Add("pin")};
+    std::sort(items.begin(), items.end(), std::greater<>());
+    Connect(part);
+    for (auto* const item : items)
+        SelectRow(item->Set("size", item->Name().c_str()));
+
+    EXPECT_EQ(Text(), items[2]->Name() + " " + items[1]->Name() + " " + items[0]->Name());
+}
+
+TEST_F(NewSelectionData, AnItemWithTwoRowsHasOneValue) {
+    auto& bolt = part.Add("bolt").Set("size", "M6");
+    Connect(part);
+    SelectRow(bolt);
+    SelectRow(bolt);
+
+    EXPECT_EQ(Text(), "M6");
 }
 
 TEST_F(NewSelectionData, WithoutADataControlThereIsNoText) {
@@ -181,6 +242,64 @@ TEST_F(NewSelectionData, TheTextOfASourceWithoutADataPropertyIsFalseAtOnce) {
     SelectRow(part, "bolt", "M6");
 
     EXPECT_EQ(TextOf(part), "false before");
+}
+
+// A host that takes things away while it is asked
+
+TEST_F(NewSelectionData, ARowThatGoesWhileAnotherValueIsReadHasNoValue) {
+    auto const items = SelectThree();
+    host.calls.On("SetCurrentDataItem", "data", [this] { TakeAllRowsOut(); });
+
+    EXPECT_EQ(Text(), items[0]->Name());
+}
+
+TEST_F(NewSelectionData, NoValueIsReadIfTheControlEndsItsConnection) {
+    Connect(part);
+    SelectRow(part, "bolt", "M6");
+    host.calls.On("SetCurrentDataItem", "data", [this] {
+        view.DeleteVPConnect(&property, static_cast<zbIBrowserDataSource*>(&part));
+    });
+
+    EXPECT_THAT(ValuesRead(), IsEmpty());
+}
+
+TEST_F(NewSelectionData, NoValueIsReadOnceTheControlHasDeletedTheView) {
+    SelectThree();
+    host.calls.On("SetCurrentDataItem", "data", [this] { GiveTheViewUp(); });
+
+    EXPECT_THAT(ValuesRead(), IsEmpty());
+    EXPECT_EQ(host.calls.Count("SetCurrentDataItem"), 1U);
+}
+
+TEST_F(NewSelectionData, ARowThatGoesWhileAnotherIsAskedForItsSourceIsNotAsked) {
+    auto const items = SelectThree();
+    host.calls.On("GetDataSource", items[0]->Name(), [this] { TakeAllRowsOut(); });
+    std::set<zbIBrowserDataSource*> sources;
+
+    manager.GetSelectedDataSources(sources, true);
+
+    EXPECT_THAT(sources, ElementsAre(items[0]->source));
+    EXPECT_EQ(host.calls.Count("GetDataSource"), 1U);
+}
+
+TEST_F(NewSelectionData, NoRowIsAskedForItsSourceOnceTheViewHasGone) {
+    auto const items = SelectThree();
+    host.calls.On("GetDataSource", items[0]->Name(), [this] { GiveTheViewUp(); });
+    std::set<zbIBrowserDataSource*> sources;
+
+    manager.GetSelectedDataSources(sources, true);
+
+    EXPECT_EQ(host.calls.Count("GetDataSource"), 1U);
+}
+
+TEST_F(NewSelectionData, DataIsToldApartBySourceOfRowsThatAreStillThereOnly) {
+    auto const items = SelectThree();
+    EXPECT_THAT(DataOf(tool), ElementsAre(&tool["saw"]));
+    host.calls.ForgetCounts();
+    host.calls.On("GetDataSource", items[0]->Name(), [this] { TakeAllRowsOut(); });
+
+    EXPECT_LE(DataOf(part).size(), 1U);
+    EXPECT_EQ(host.calls.Count("GetDataSource"), 1U);
 }
 
 TEST_F(NewSelectionData, TheSourcesOfSelectedRowsAreGiven) {

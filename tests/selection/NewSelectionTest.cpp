@@ -87,6 +87,42 @@ TEST_F(NewSelection, TheLastSelectIsNotedWhetherItMadeADifferenceOrNot) {
     EXPECT_FALSE(manager.GetLastSelect());
 }
 
+TEST_F(NewSelection, TheLastSelectIsNotedBeforeAClearingIsTold) {
+    bool lastSelect = false;
+    signals.Once(&zbBrowserSignalManager::SelectionClearing,
+                 [&](auto*) { lastSelect = manager.GetLastSelect(); });
+
+    manager.UpdateSelection({}, true, true);
+
+    EXPECT_TRUE(lastSelect);
+    signals.Discard();
+}
+
+TEST_F(NewSelection, TheLastChangeIsKnownWhenNotifiersAreTold) {
+    Select({&a});
+    RecordingNotifier notifier;
+    manager.AddNotifier(&notifier);
+    std::string changed;
+    notifier.onChanged = [&] { changed = Changed(); };
+
+    manager.UpdateSelection({&b}, true, false);
+
+    EXPECT_EQ(changed, "[b]");
+    signals.Discard();
+}
+
+TEST_F(NewSelection, ClearingAndDeselectingTheSameEndsBehindTheClearing) {
+    Select({&a});
+    RecordingNotifier notifier;
+    manager.AddNotifier(&notifier);
+
+    manager.UpdateSelection({&a}, false, true);
+
+    EXPECT_THAT(notifier.take(), ElementsAre("deselected [a]"));
+    EXPECT_THAT(signals.take(), ElementsAre("SelectionClearing view"));
+    EXPECT_EQ(Changed(), "[]");
+}
+
 TEST_F(NewSelection, TheSyncFlagDoesNotHoldTheSignalBack) {
     RecordingNotifier notifier;
     manager.AddNotifier(&notifier);
@@ -169,6 +205,16 @@ TEST_F(NewSelection, ItemsOfADeletedRootAreForgotten) {
     EXPECT_EQ(Changed(), "[]");
     EXPECT_EQ(manager.GetDropItem(), nullptr);
     EXPECT_EQ(View().GetLastFindStartPoint(), nullptr);
+}
+
+TEST_F(NewSelection, AnItemOfTheLastChangeIsForgottenAlsoIfItIsNotSelected) {
+    Select({&a});
+    manager.UpdateSelection({&a}, false, false);
+
+    View().DeleteVirtualRoot();
+
+    EXPECT_EQ(Changed(), "[]");
+    signals.Discard();
 }
 
 TEST_F(NewSelection, DataThatIsSelectedReplacesTheSelectionIfAskedTo) {

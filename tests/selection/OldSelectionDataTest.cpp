@@ -6,8 +6,6 @@
 #include "selection/zbBrowserSelectionManager.h"
 #include "view/OldViewContext.h"
 
-#include <zbBrowserView/zbIBrowserViewProperty.h>
-
 #include <string>
 
 namespace zbtest {
@@ -34,6 +32,33 @@ TEST_F(OldSelection, FlatItemsAreGivenInAllForms) {
     EXPECT_TRUE(manager.GetSelectedDataItemsOfSource(&part, set, false));
     EXPECT_THAT(list, ElementsAre(&part["bolt"]));
     EXPECT_THAT(set, ElementsAre(&part["bolt"]));
+}
+
+TEST_F(OldSelection, TheItemsOfASourceAreToldApartWithoutAskingThem) {
+    Show(b, part);
+    Show(c, part);
+    Show(c, tool);
+    Select({&b, Row(b, "nut")});
+    std::vector<zbIBrowserDataItemSimple*> items;
+    host.calls.ForgetCounts();
+
+    EXPECT_TRUE(manager.GetSelectedDataItemsOfSource(&tool, items, true));
+    EXPECT_THAT(items, ElementsAre(&tool["saw"]));
+    EXPECT_FALSE(manager.GetSelectedDataItemsOfSource(&tool, items, false));
+
+    EXPECT_EQ(host.calls.Count("GetDataSource"), 0U);
+}
+
+TEST_F(OldSelection, NullStandsForTheItemsWithoutASource) {
+    part["nut"].source = nullptr;
+    Show(a, part);
+    Select({&a});
+    std::vector<zbIBrowserDataItemSimple*> items;
+
+    EXPECT_TRUE(manager.GetSelectedDataItemsOfSource(
+        static_cast<zbIBrowserDataSourceSimple*>(nullptr), items, true));
+
+    EXPECT_THAT(items, ElementsAre(&part["nut"]));
 }
 
 TEST_F(OldSelection, FlatItemsAreFalseAndTreeItemsTrueWhenThereAreNone) {
@@ -238,6 +263,16 @@ TEST_F(OldSelectionStandIns, ARowOfATreeThatGoesIsNoDropItemAnyMore) {
     EXPECT_EQ(trusting.GetDropDataSource(), nullptr);
 }
 
+TEST_F(OldSelectionStandIns, ARowOfATreeThatGoesWhileItsTreeIsAskedForLeavesNoDropBehind) {
+    row.ofTree = &tree.Add(part["bolt"], nullptr);
+    host.calls.On("GetDataSource", "bolt", [this] { trusting.Forget(row); });
+
+    trusting.SetDropItem(&row);
+
+    EXPECT_EQ(trusting.GetDropDataItemHierarchical(), nullptr);
+    EXPECT_EQ(trusting.GetDropDataSource(), nullptr);
+}
+
 TEST_F(OldSelectionStandIns, ARowOfATreeStandsForItsTreeAndForItsFlatSource) {
     row.ofTree = &tree.Add(part["bolt"], nullptr);
     row.flat = &part["bolt"];
@@ -263,74 +298,6 @@ TEST_F(OldSelectionStandIns, SelectedGroupsAreGivenAndOtherItemsAreNot) {
 
     EXPECT_THAT(groups, ElementsAre(&group));
     signals.Discard();
-}
-
-// Values
-
-class OldSelectionText : public OldSelection {
-protected:
-    OldSelectionText() {
-        part["bolt"].Set("size", "M6");
-        part["nut"].Set("size", "left handed");
-        part["pin"].Set("size", "");
-        Show(a, part);
-        Show(a, tool);
-        view.CreateViewProperty("size");
-        Select({&a});
-    }
-    [[nodiscard]] zbIBrowserViewProperty* Property() { return view.FindViewProperty("size"); }
-    [[nodiscard]] std::string Text(bool list) {
-        zbString text = "before";
-        auto const answer = manager.GetSelectedPropertyTextOfSource(
-            static_cast<zbIBrowserDataSourceSimple*>(&part), Property(), Property(), text, list);
-        return std::string(answer ? "true " : "false ") + text.c_str();
-    }
-};
-
-TEST_F(OldSelectionText, TheValuesOfASourceStandWithABlankBetween) {
-    View().CreateVPConnect(Property(), &part, &part.Property("size"));
-
-    EXPECT_EQ(Text(false), "true M6 left handed");
-}
-
-TEST_F(OldSelectionText, InAListAValueWithABlankStandsInBraces) {
-    View().CreateVPConnect(Property(), &part, &part.Property("size"));
-
-    EXPECT_EQ(Text(true), "true M6 {left handed}");
-}
-
-TEST_F(OldSelectionText, WithoutADataPropertyForTheSourceTheAnswerIsFalseAtOnce) {
-    View().CreateVPConnect(Property(), &tool, &tool.Property("size"));
-
-    EXPECT_EQ(Text(false), "false before");
-}
-
-TEST_F(OldSelectionText, WithoutSelectedItemsThereIsNoText) {
-    View().CreateVPConnect(Property(), &part, &part.Property("size"));
-    manager.ClearAll();
-
-    EXPECT_EQ(Text(false), "false ");
-}
-
-TEST_F(OldSelectionText, NullIsNoProperty) {
-    zbString text = "before";
-
-    EXPECT_FALSE(manager.GetSelectedPropertyTextOfSource(
-        static_cast<zbIBrowserDataSourceSimple*>(&part), nullptr, Property(), text, false));
-    EXPECT_FALSE(manager.GetSelectedPropertyTextOfSource(
-        static_cast<zbIBrowserDataSourceHierarchical*>(nullptr), Property(), Property(), text,
-        false));
-    EXPECT_EQ(text, "before");
-}
-
-TEST_F(OldSelectionText, ATreeWithoutRowsHasNoText) {
-    View().CreateVPConnect(Property(), &part, &part.Property("size"));
-    auto* const tree = static_cast<zbIBrowserDataSourceHierarchical*>(&host.Tree("t", part));
-    zbString text = "before";
-
-    EXPECT_FALSE(
-        manager.GetSelectedPropertyTextOfSource(tree, Property(), Property(), text, false));
-    EXPECT_EQ(text, "");
 }
 
 } // namespace

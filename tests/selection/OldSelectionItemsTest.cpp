@@ -67,7 +67,54 @@ TEST_F(OldSelection, ADropOnAFolderNotesItsAttachedObjectOrElseItsFirstTree) {
     EXPECT_EQ(manager.GetDropDataSource(), nullptr);
 }
 
+TEST_F(OldSelection, ADropOnAFolderKeepsTheFlatDataItemOfTheRowBefore) {
+    Show(a, part);
+    manager.SetDropItem(Row(a, "bolt"));
+
+    manager.SetDropItem(&b);
+
+    EXPECT_EQ(manager.GetDropDataItemSimple(), &part["bolt"]);
+    EXPECT_TRUE(manager.IsDropOnFreeFolder());
+}
+
+TEST_F(OldSelection, ADropDoesNotKeepASourceThatIsDisconnected) {
+    RecordingTree& tree = host.Tree("assembly", part);
+    view.DataSourceConnect(&tree);
+    View().CreateTree(&a, &tree);
+    manager.SetDropItem(&a);
+
+    view.DataSourceDisconnect("assembly");
+    EXPECT_EQ(manager.GetDropDataSource(), nullptr);
+    EXPECT_TRUE(manager.IsDropOnFreeFolder());
+
+    b.SetAttachedObject(static_cast<zbIBrowserDataSource*>(&tool));
+    manager.SetDropItem(&b);
+    view.DataSourceDisconnectAll(false);
+    EXPECT_EQ(manager.GetDropDataSource(), nullptr);
+    signals.Discard();
+}
+
+TEST_F(OldSelection, ADropKeepsItsSourceWhileAnotherOneIsDisconnected) {
+    a.SetAttachedObject(static_cast<zbIBrowserDataSource*>(&tool));
+    manager.SetDropItem(&a);
+
+    view.DataSourceDisconnect("part");
+
+    EXPECT_EQ(manager.GetDropDataSource(), &tool);
+}
+
 // Items that go
+
+TEST_F(OldSelection, AFlatDataItemThatIsKeptBehindAResetIsForgottenWithItsRow) {
+    Show(a, part);
+    manager.SetDropItem(Row(a, "bolt"));
+    manager.ResetDropItem();
+
+    View().OnDataItemDeleted(&part["bolt"]);
+
+    EXPECT_EQ(manager.GetDropDataItemSimple(), nullptr);
+    signals.Discard();
+}
 
 TEST_F(OldSelection, RowsThatGoInAListAreDeselectedAloudBefore) {
     Show(a, part);

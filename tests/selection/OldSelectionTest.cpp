@@ -80,6 +80,34 @@ TEST_F(OldSelection, ClearingAloneTellsTheDataSideThatTheSelectionChanged) {
                                             "SelectionManagerChanged data selection"));
 }
 
+TEST_F(OldSelection, ClearingWithItemsOfWhichNoneIsOfTheViewTellsThatTheManagerChanged) {
+    manager.UpdateSelection({nullptr, Another().GetRootFreeFolder()}, true, true);
+
+    EXPECT_THAT(signals.take(),
+                ElementsAre("SelectionClearing view", "SelectionManagerChanged data selection"));
+}
+
+TEST_F(OldSelection, ClearingWithItemsThatGoMeanwhileTellsThatTheManagerChanged) {
+    signals.Once(&zbBrowserSignalManager::SelectionClearing,
+                 [this](auto*) { view.DeleteFreeFolder(&a, true); });
+    signals.Only({"ViewItemsSelected", "SelectionManagerChanged"});
+
+    manager.UpdateSelection({&a}, true, true);
+
+    EXPECT_THAT(signals.take(), ElementsAre("SelectionManagerChanged data selection"));
+}
+
+TEST_F(OldSelection, ClearingAndDeselectingTheSameTellsOfADeselectionWithoutADifference) {
+    Select({&a});
+    RecordingNotifier notifier;
+    manager.AddNotifier(&notifier);
+
+    manager.UpdateSelection({&a}, false, true);
+
+    EXPECT_THAT(notifier.take(), ElementsAre("deselected [a]", "deselected [a]"));
+    EXPECT_THAT(signals.take(), ElementsAre("SelectionClearing view", "ViewItemsDeselected [a]"));
+}
+
 TEST_F(OldSelection, ClearAndSelectTellsOfBothAndNotThatTheManagerChanged) {
     Show(a, part);
     Select({Row(a, "bolt")});
@@ -148,6 +176,32 @@ TEST_F(OldSelection, ANotifierThatClearsTheSyncFlagHoldsOneSignalBack) {
     notifier.onChanged = [] {};
     manager.UpdateSelection({&b}, true, false);
     EXPECT_THAT(signals.take(), ElementsAre("ViewItemsSelected [b]"));
+}
+
+TEST_F(OldSelection, TheSyncFlagIsTrueAgainBehindANotifierThatClearsItAndThrows) {
+    RecordingNotifier notifier;
+    manager.AddNotifier(&notifier);
+    notifier.onChanged = [&] {
+        manager.SetSyncFlag(false);
+        throw std::runtime_error("no");
+    };
+
+    EXPECT_THROW(manager.UpdateSelection({&a}, true, false), std::runtime_error);
+
+    EXPECT_TRUE(manager.GetSyncFlag());
+    EXPECT_THAT(signals.take(), IsEmpty());
+}
+
+TEST_F(OldSelection, TheSyncFlagIsTrueAgainBehindASlotThatClearsItAndThrows) {
+    signals.Once(&zbBrowserSignalManager::ViewItemsSelected, [this](Items&) {
+        manager.SetSyncFlag(false);
+        throw std::runtime_error("no");
+    });
+
+    EXPECT_THROW(manager.UpdateSelection({&a}, true, false), std::runtime_error);
+
+    EXPECT_TRUE(manager.GetSyncFlag());
+    signals.Discard();
 }
 
 TEST_F(OldSelection, TheEndOfAChangeIsToldTwice) {
@@ -284,6 +338,28 @@ TEST_F(OldSelection, TheManagerIsTheSameByBothWays) {
 TEST_F(OldSelection, AmongFoldersAndRowsThereAreNoGroups) {
     Show(a, part);
     Select({&a, Row(a, "bolt")});
+    Items groups{nullptr};
+
+    EXPECT_TRUE(manager.GetSelectedDependentFolders(groups));
+    EXPECT_THAT(groups, IsEmpty());
+}
+
+TEST_F(OldSelection, SelectedFoldersAreGivenInBothFormsWithoutTheRowsAmongThem) {
+    Show(a, part);
+    Select({&a, Row(a, "bolt"), &c});
+    std::set<zbIBrowserViewItemFreeFolder*> set;
+    std::vector<zbIBrowserViewItemFreeFolder*> list;
+
+    EXPECT_TRUE(manager.GetSelectedFreeFolders(set));
+    EXPECT_TRUE(manager.GetSelectedFreeFolders(list));
+
+    EXPECT_THAT(set, testing::UnorderedElementsAre(&a, &c));
+    EXPECT_THAT(list, testing::UnorderedElementsAre(&a, &c));
+}
+
+TEST_F(OldSelection, WithoutAViewThereAreNoGroupsAndTheAnswerIsTrueAllTheSame) {
+    host.DeleteView(view);
+    signals.Discard();
     Items groups{nullptr};
 
     EXPECT_TRUE(manager.GetSelectedDependentFolders(groups));

@@ -99,6 +99,18 @@ TYPED_TEST(SelectionContract, ClearAndSelectLeavesTheNewItemsAlone) {
     EXPECT_EQ(this->Selected(), "[b]");
 }
 
+TYPED_TEST(SelectionContract, ClearAndSelectTheSameMakesADifference) {
+    this->Select({&this->a});
+    RecordingNotifier notifier;
+    this->manager.AddNotifier(&notifier);
+
+    this->manager.UpdateSelection({&this->a}, true, true);
+
+    EXPECT_THAT(notifier.take(), ElementsAre("deselected [a]", "selected [a]", "finished"));
+    EXPECT_THAT(this->signals.take(),
+                ElementsAre("SelectionClearing view", "ViewItemsSelected [a]"));
+}
+
 TYPED_TEST(SelectionContract, SelectingNoItemsIsNothing) {
     RecordingNotifier notifier;
     this->manager.AddNotifier(&notifier);

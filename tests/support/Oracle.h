@@ -108,7 +108,7 @@ private:
         bool selected = false;
         bool changed = false;
         std::optional<Basis> basis = Basis(); // Empty: it cannot be told
-        bool mayBeLoose = false;              // Rows may have to be sorted though all are ordered
+        bool unsorted = false; // Since the last sort a row has come, gone or lost its place
     };
     struct View {
         std::string name;

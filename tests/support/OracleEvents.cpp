@@ -85,6 +85,7 @@ std::string Oracle::Deleted(ScriptStep const& step) {
         }
         Signal("ViewItemDeleted " + NameOf(*row));
         folder->rows.erase(row);
+        folder->unsorted = true;
         if (folder->children.empty() && !HasVisible(*folder)) {
             Changed(*folder);
         }
@@ -162,7 +163,7 @@ void Oracle::RefreshFolder(Folder& folder) {
             bool const mayBeAsked = !hostHasRun_ || Holds<RecordingItem>(list->All(), row.item);
             if (row.source == list && mayBeAsked && row.item->dirty) {
                 row.ordered = false;
-                folder.mayBeLoose = true;
+                folder.unsorted = true;
                 Signal("ViewItemChanged " + NameOf(row));
             }
         }
@@ -260,6 +261,7 @@ std::string Oracle::UnbuildItem(ScriptStep const& step) {
             Signal("ViewItemDeleted " + NameOf(*row));
         }
         folder->rows.erase(row);
+        folder->unsorted = true;
     }
     return "";
 }
@@ -284,6 +286,7 @@ std::string Oracle::DeleteRows(ScriptStep const& step) {
         if (row != folder->rows.end()) {
             gone.push_back(*row);
             folder->rows.erase(row);
+            folder->unsorted = true;
         }
     }
     RowsGone(*view, std::move(gone), step.Flag(2));

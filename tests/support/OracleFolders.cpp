@@ -30,12 +30,12 @@ void Oracle::Forget(Folder& folder) {
     folder.trees.clear();
     folder.rows.clear();
     folder.basis = Basis();
-    folder.mayBeLoose = false;
+    folder.unsorted = false;
 }
 
 void Oracle::AddRow(Folder& folder, RecordingItem* item, RecordingSource* source, bool silent) {
     folder.rows.push_back({item, source});
-    folder.mayBeLoose = true;
+    folder.unsorted = true;
     if (!silent) {
         Signal("ViewItemCreated " + NameOf(folder.rows.back()));
     }
@@ -62,7 +62,7 @@ bool Oracle::BuildList(Folder& folder, RecordingSource* source, bool silent) {
 void Oracle::DropRows(View& view, Folder& folder, std::function<bool(Row const&)> const& goes) {
     std::vector<Row> gone;
     std::copy_if(folder.rows.begin(), folder.rows.end(), std::back_inserter(gone), goes);
-    std::erase_if(folder.rows, goes);
+    folder.unsorted = std::erase_if(folder.rows, goes) > 0 || folder.unsorted;
     RowsGone(view, std::move(gone), false);
 }
 

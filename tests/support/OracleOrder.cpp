@@ -41,7 +41,7 @@ std::string Oracle::UnsortAll(ScriptStep const& step) {
 void Oracle::LoosenAll(View& view) {
     for (Folder* const folder : PreOrder(view.root)) {
         folder->used = true;
-        folder->mayBeLoose = true;
+        folder->unsorted = true;
         for (Row& row : folder->rows) {
             row.ordered = false;
         }
@@ -107,33 +107,21 @@ Oracle::Basis Oracle::BasisOf(View const& view) const {
 // behind those with which they tie; unless what they were sorted by has changed, which sorts all
 // anew.
 void Oracle::SortRows(View& view, Folder& folder) {
-    auto const isLoose = [](Row const& row) { return !row.ordered; };
     auto const stays = [](Row const& row) { return row.ordered && !row.changed; };
-    bool const anyLoose = std::any_of(folder.rows.begin(), folder.rows.end(), isLoose);
-    bool const allStay = std::all_of(folder.rows.begin(), folder.rows.end(), stays);
-    if (folder.rows.empty() || (!anyLoose && !folder.mayBeLoose)) {
+    if (folder.rows.empty() || !folder.unsorted) {
         return;
     }
     bool const isDefault = view.sorted == view.columns.front().get();
-    auto const before = sortProperty_.lock();
     bool const takes = !isDefault && folder.rows.size() > 1 && TakeSortProperty(view);
     bool const knowsProperty = isDefault || takes || knowsSortProperty_;
     Basis const now = BasisOf(view);
-    if (!anyLoose) {
-        // Rows that had to be sorted have gone, and it cannot be told whether that is noticed.
-        bool const makesNoDifference = knowsProperty && allStay && folder.basis == now;
-        knowsSortProperty_ = knowsSortProperty_ && before == sortProperty_.lock();
-        openOrder_ = makesNoDifference ? nullptr : &folder;
-        folder.basis = makesNoDifference ? folder.basis : std::nullopt;
-        return;
-    }
     knowsSortProperty_ = knowsSortProperty_ || takes;
     auto const loose = std::stable_partition(folder.rows.begin(), folder.rows.end(), stays);
     auto const ordered = static_cast<std::size_t>(loose - folder.rows.begin());
     bool const knowsBasis = knowsProperty && (folder.basis || ordered == 0);
     bool const merges = folder.basis == now;
     folder.basis = knowsProperty ? std::optional(now) : std::nullopt;
-    folder.mayBeLoose = false;
+    folder.unsorted = false;
     openOrder_ = &folder;
     if (knowsBasis && HasDefiniteOrder(folder, now.property)) {
         SortKnown(view, folder, merges ? ordered : 0);

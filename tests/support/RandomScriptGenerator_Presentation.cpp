@@ -68,7 +68,7 @@ Script ScriptGenerator::DrawReading() {
     }
     Script steps;
     for (std::string const& folder : player_.FolderNames(view)) {
-        steps.push_back(ScriptStep::Of("read", view + ":" + folder));
+        steps.push_back(ScriptStep::Of("read", std::string(view).append(":").append(folder)));
     }
     return steps;
 }

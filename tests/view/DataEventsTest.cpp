@@ -172,6 +172,61 @@ TEST_F(DataEventsTest, TheRowsOfAnItemCanBeDeletedSilently) {
     EXPECT_THAT(signals.take(), IsEmpty());
 }
 
+TEST_F(DataEventsTest, ARowOfAnotherSourceThanThoseOfItsFolderIsNotDeletedWithItsItem) {
+    auto& tool = Connected("tool", {});
+    part["nut_2"].source = &tool;
+    Show(a, part);
+    view.DeleteDataDependentViewItems(&part["nut_2"], false);
+    EXPECT_EQ(Rows(a), (Names{"b", "bolt_1", "nut_2"}));
+    EXPECT_THAT(signals.take(), IsEmpty());
+}
+
+// New rows, handed out
+
+TEST_F(DataEventsTest, TheNewRowsAreHandedOutFolderByFolder) {
+    Show(a, part);
+    Show(b, part);
+    std::vector<zbIBrowserViewItem*> created;
+    std::vector<zbIBrowserViewItem*> parents;
+    view.CreateDataDependentViewItems(&part.Add("pin_3"), created, parents, false);
+    EXPECT_THAT(created, ElementsAre(Row(a, "pin_3"), Row(b, "pin_3")));
+    EXPECT_THAT(parents, IsEmpty());
+    signals.Discard();
+}
+
+TEST_F(DataEventsTest, ANewRowThatASlotDeletesIsNotHandedOut) {
+    Show(a, part);
+    Show(b, part);
+    signals.Once(&zbBrowserSignalManager::ViewItemCreated,
+                 [&](auto*) { view.DeleteList(&a, &part); });
+    auto* const other = host.OldView("other").GetRootFreeFolder();
+    std::vector<zbIBrowserViewItem*> created{other};
+    std::vector<zbIBrowserViewItem*> parents;
+
+    view.CreateDataDependentViewItems(&part.Add("pin_3"), created, parents, false);
+
+    EXPECT_THAT(created, ElementsAre(other, Row(b, "pin_3")));
+    signals.Discard();
+}
+
+TEST_F(DataEventsTest, WhereTheListGoesBeforeTheRowIsMadeNullIsHandedOut) {
+    Show(a, part);
+    auto& pin = part.Add("pin_3");
+    int asked = 0;
+    host.calls.On("GetDataSource", "pin_3", [&] {
+        if (++asked == 4) {
+            view.DeleteList(&a, &part);
+        }
+    });
+    std::vector<zbIBrowserViewItem*> created;
+    std::vector<zbIBrowserViewItem*> parents;
+
+    view.CreateDataDependentViewItems(&pin, created, parents, false);
+
+    EXPECT_THAT(created, ElementsAre(nullptr));
+    signals.Discard();
+}
+
 // The guard
 
 TEST_F(DataEventsTest, ACreationFromWithinAnUpdateIsDropped) {

@@ -246,7 +246,90 @@ TEST_F(EventWalkTest, AnItemThatItsSourceDoesNotListIsTakenFromWithinASlotToo) {
     signals.Discard();
 }
 
+TEST_F(EventWalkTest, AFolderThatASlotMakesMeanwhileDoesNotHear) {
+    Show(a, part);
+    int made = 0;
+    auto const connection = signals.On(&zbBrowserSignalManager::ViewItemChanged, [&](auto*) {
+        if (++made > 10) {
+            return;
+        }
+        view.CreateFreeFolder(&Root(), "made");
+        view.CreateList(Root().FindChildFreeFolder("made"), &part, false);
+    });
+
+    view.OnDataItemCreated(&part.Add("pin_3"), false);
+
+    EXPECT_EQ(made, 1);
+    EXPECT_THAT(Rows(*Root().FindChildFreeFolder("made")), ElementsAre("bolt_1", "nut_2", "pin_3"));
+    signals.Discard();
+}
+
+TEST_F(EventWalkTest, ARefreshPassesOverFoldersThatASlotMakesMeanwhile) {
+    Show(c, tool);
+    tool["saw_1"].dirty = true;
+    int made = 0;
+    auto const connection =
+        signals.On(&zbBrowserSignalManager::ViewItemChanged, [&](zbIBrowserViewItem* row) {
+            if (++made > 10) {
+                return;
+            }
+            auto* const folder = row->GetParentFreeFolder();
+            view.CreateFreeFolder(folder, "made");
+            view.CreateList(folder->FindChildFreeFolder("made"), &tool, false);
+        });
+
+    view.OnAllDirtyDataItemsRebuild();
+
+    EXPECT_EQ(made, 1);
+    signals.Discard();
+}
+
+TEST_F(EventWalkTest, AfterASlotHasRunAFolderAsksTheSourceForTheItemFirst) {
+    auto& hidden = part.Add("hidden_3");
+    part.Unlist(hidden);
+    Show(b, part);
+    Show(c, part);
+    view.OnDataItemCreated(&hidden, false);
+    EXPECT_THAT(signals.take(), ElementsAre("ViewItemCreated hidden_3", "ViewItemChanged b"));
+    EXPECT_THAT(Rows(c), ElementsAre("d", "bolt_1", "nut_2"));
+}
+
 // Busy folders
+
+TEST_F(EventWalkTest, WhatHasHeardIsNotBusyWhileTheNextOneHears) {
+    ShowEverywhere();
+    std::vector<bool> expands;
+    OnceChanged(d, [&] {
+        for (auto* const folder : {&a, &b, &c, &d, &Root()}) {
+            expands.push_back(view.ExpandFreeFolder(folder, false));
+        }
+    });
+    view.OnDataItemCreated(&part.Add("pin_3"), false);
+    EXPECT_THAT(expands, ElementsAre(true, true, false, false, false));
+    signals.Discard();
+}
+
+TEST_F(EventWalkTest, AFolderThatHasHeardStaysBusyWhileOneBelowItHears) {
+    ShowEverywhere();
+    std::vector<bool> expands;
+    OnceChanged(b, [&] {
+        for (auto* const folder : {&a, &b, &Root()}) {
+            expands.push_back(view.ExpandFreeFolder(folder, false));
+        }
+    });
+    view.OnDataItemCreated(&part.Add("pin_3"), false);
+    EXPECT_THAT(expands, ElementsAre(false, false, false));
+    signals.Discard();
+}
+
+TEST_F(EventWalkTest, NoFolderIsBusyAfterOneWentWhileItHeard) {
+    Show(b, part);
+    OnceChanged(b, [&] { view.DeleteFreeFolder(&b, true); });
+    view.OnDataItemCreated(&part.Add("pin_3"), false);
+    EXPECT_TRUE(view.ExpandFreeFolder(&a, false));
+    EXPECT_TRUE(view.ExpandFreeFolder(&Root(), false));
+    signals.Discard();
+}
 
 TEST_F(EventWalkTest, TheFolderThatHearsAndThoseAboveItAreBusyAndNoOthers) {
     Show(b, part);

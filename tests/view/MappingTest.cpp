@@ -148,6 +148,26 @@ TEST_F(DescendantsTest, WhatIsBelowNothingIsNothing) {
     EXPECT_EQ(host.calls.Count("GetChildren"), 0U);
 }
 
+TEST_F(DescendantsTest, NoFurtherItemIsAskedOnceTheViewHasGone) {
+    auto* const wheel = &tree.Add(type, "wheel");
+    host.calls.On("GetChildren", "assembly", [this] { host.DeleteView(view); });
+    TreeItems out;
+
+    view.AppendDescendentDataItems(out, {engine, wheel});
+
+    EXPECT_EQ(host.calls.Count("GetDataSource", "wheel"), 0U);
+    EXPECT_THAT(out, IsEmpty());
+    signals.Discard();
+}
+
+TEST_F(DescendantsTest, ATreeIsNotAskedWhenTheViewGoesWithTheQuestionWhichTreeItIs) {
+    host.calls.On("GetDataSource", "engine", [this] { host.DeleteView(view); });
+    TreeItems out;
+    view.AppendDescendentDataItems(out, {engine});
+    EXPECT_EQ(host.calls.Count("GetChildren"), 0U);
+    signals.Discard();
+}
+
 // From data items to view items
 
 TEST_F(MappingTest, TheRowsOfADataItemAreAppendedFolderByFolder) {

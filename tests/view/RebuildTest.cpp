@@ -79,6 +79,33 @@ TEST_F(RebuildTest, ABuildingPassCanBeLoud) {
     EXPECT_THAT(signals.take(), ElementsAre("ViewItemCreated pin_3", "ViewItemChanged a"));
 }
 
+TEST_F(RebuildTest, ARebuildOfEverythingAppliesTheFilterThatIsSet) {
+    class FilteredView final : public zbBrowserView {
+    public:
+        FilteredView(zbBrowserViewCtrl& controller, zbIBrowserDataSourceSimple& source)
+            : zbBrowserView(&controller, "filtered")
+            , source_(source) {}
+        FilteredView(FilteredView const&) = delete;
+        FilteredView& operator=(FilteredView const&) = delete;
+        ~FilteredView() override = default;
+        bool GetCurrentFilter(std::vector<zbIBrowserDataSourceSimple*>& out) const override {
+            out.push_back(&source_);
+            return true;
+        }
+
+    private:
+        zbIBrowserDataSourceSimple& source_;
+    };
+    FilteredView filtered(host.Controller(), part);
+    ASSERT_TRUE(filtered.CreateList(filtered.GetRootFreeFolder(), &part, false));
+    signals.Discard();
+
+    filtered.OnDataItemsRebuildAll();
+
+    EXPECT_THAT(signals.take(), ElementsAre("ViewItemShown bolt_1", "ViewItemShown nut_2",
+                                            "ViewContentChanged filtered", "ViewChanged filtered"));
+}
+
 // Dirty lists
 
 TEST_F(RebuildTest, ADirtyListLosesAndGainsRowsAndTheOthersStayTheSameObjects) {
@@ -138,6 +165,21 @@ TEST_F(RebuildTest, ADirtySourceWithoutItemsLosesItsRowsAndStaysConnected) {
     EXPECT_THAT(Rows(a), IsEmpty());
     EXPECT_EQ(view.FindList(&a, &part), &part);
     EXPECT_EQ(view.GetDataSourceSimple(&part), &part);
+    signals.Discard();
+}
+
+TEST_F(RebuildTest, ADirtyListThatFailsDoesNotKeepTheNextOneFromItsRows) {
+    auto& tool = Connected("tool", {"saw_1"});
+    Show(a, part);
+    Show(a, tool);
+    part.failing = true;
+    part.dirty = true;
+    tool.Add("file_2");
+    tool.dirty = true;
+
+    view.OnAllDirtyDataListsRebuild();
+
+    EXPECT_EQ(Rows(a), (Names{"bolt_1", "nut_2", "saw_1", "file_2"}));
     signals.Discard();
 }
 

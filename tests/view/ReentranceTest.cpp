@@ -31,6 +31,7 @@ struct Deed {
     void (*act)(ReentranceBench&, Operation const&);
     bool throws = false;
     bool freesItems = false;
+    bool freesSources = false;
 };
 
 void MakeDirty(ReentranceBench& bench) {
@@ -66,9 +67,25 @@ void EmptyTheSources(ReentranceBench& bench) {
     bench.a->SetShowWhenEmpty(false, false);
 }
 
+void ConnectText(ReentranceBench& bench) {
+    auto& part = bench.host.Source("part");
+    bench.view->CreateViewProperty("size");
+    bench.view->CreateVPConnect(bench.view->FindViewProperty("size"), &part,
+                                &part.Property("part_size"));
+}
+
+void ReadText(ReentranceBench& bench) {
+    zbIBrowserDataSourceSimple* const part = &bench.host.Source("part");
+    auto* const property = bench.view->FindViewProperty("size");
+    zbString text;
+    bench.view->GetSelectionManager()->GetSelectedPropertyTextOfSource(part, property, property,
+                                                                       text, true);
+}
+
 // Short, for the tables
 using B = ReentranceBench;
 using O = Operation const;
+using TreeItems = std::vector<zbIBrowserDataItemHierarchical*>;
 
 constexpr Operation allOperations[] = {
     {"CreateList", [](B& t) { t.view->CreateList(t.c, &t.host.Source("part"), false); }},
@@ -127,6 +144,13 @@ constexpr Operation allOperations[] = {
          t.view->DeleteViewItemList(items, false);
      }},
     {"TreeItemCreated", [](B& t) { t.host.Controller().OnDataItemCreated(t.engine, false); }},
+    {"Descendants",
+     [](B& t) {
+         TreeItems out;
+         t.view->AppendDescendentDataItems(out, {t.engine, t.engine});
+     }},
+    {"SelectTreeItems",
+     [](B& t) { t.view->OnDataItemsSelected(TreeItems{t.engine}, false, false); }},
     {"SelectData", [](B& t) { t.host.Controller().OnDataItemsSelected(t.SomeData(), true); }},
     {"DeselectData", [](B& t) { t.host.Controller().OnDataItemsDeselected(t.SomeData()); }},
     {"SelectRows",
@@ -134,6 +158,12 @@ constexpr Operation allOperations[] = {
     {"DeselectFolder", [](B& t) { t.view->DeselectViewItem(t.root, true); }},
     {"DeselectAll", [](B& t) { t.view->DeselectAllViewItems(); }},
     {"AnnounceSelection", [](B& t) { t.view->UpdatePreviousSelection(); }},
+    {"SelectedSources",
+     [](B& t) {
+         std::set<zbIBrowserDataSourceSimple*> sources;
+         t.view->GetSelectionManager()->GetSelectedDataSources(sources, true);
+     }},
+    {"SelectedText", ReadText, ConnectText},
 };
 
 // While the control looks for the tree, it reads the tree's own name.
@@ -167,8 +197,8 @@ constexpr Deed allDeeds[] = {
          t.FreeItems("tool");
      },
      false, true},
-    {"FreesOneSource", [](B& t, O&) { t.FreeSource("part"); }},
-    {"FreesTheOtherSource", [](B& t, O&) { t.FreeSource("tool"); }},
+    {"FreesOneSource", [](B& t, O&) { t.FreeSource("part"); }, false, false, true},
+    {"FreesTheOtherSource", [](B& t, O&) { t.FreeSource("tool"); }, false, false, true},
     {"FreesTheFolderAndAllData",
      [](B& t, O&) {
          try {
@@ -177,12 +207,14 @@ constexpr Deed allDeeds[] = {
              SUCCEED(); // It has gone already
          }
          FreeAllData(t);
-     }},
+     },
+     false, false, true},
     {"TakesTheControlAway",
      [](B& t, O&) {
          t.view->SetDataCtrl(nullptr);
          FreeAllData(t);
-     }},
+     },
+     false, false, true},
     {"DeletesTheView", [](B& t, O&) { t.host.DeleteView(*t.view); }},
     {"DeletesTheViewAndAllData",
      [](B& t, O&) {
@@ -300,8 +332,12 @@ bool ReentranceTest::RunWith(Trigger const& trigger, int nth) {
 }
 
 // What an item of the source is asked in the middle of a walk over its siblings is no place to free
-// those.
+// those, and neither is the question for its source in the middle of a list that the host gave,
+// unless the view goes too.
 bool IsAllowed(Deed const& deed, Trigger const& trigger) {
+    if (trigger.name == "GetDataSource" && deed.freesSources) {
+        return false;
+    }
     return !deed.freesItems || trigger.IsSignal() || trigger.name == "GetDataItems" ||
            trigger.name == "ContainsDataItem" || trigger.name == "OnConnected" ||
            trigger.name == "OnDisconnected" || trigger.name == "FindDataSourceSimple";

@@ -271,6 +271,33 @@ TEST_F(SelectionEventsTest, ASelectionThatWasLeftByAnExceptionDropsAllLaterEvent
     EXPECT_THAT(signals.take(), IsEmpty());
 }
 
+TEST_F(SelectionEventsTest, NoFurtherItemIsAskedOnceTheViewHasGone) {
+    Show(a, part);
+    host.calls.On("GetDataSource", "nut_2", [this] { host.DeleteView(view); });
+    auto& bolt = part["bolt_1"];
+    host.calls.ForgetCounts();
+
+    SelectData({&part["nut_2"], &bolt});
+
+    EXPECT_EQ(host.calls.Count("GetDataSource", "bolt_1"), 0U);
+    signals.Discard();
+}
+
+TEST_F(SelectionEventsTest, FlatItemsAreAskedForTheirSourceBeforeThoseOfTrees) {
+    auto& engine = ConnectedTree("assembly").Add(host.Source("assembly_type"), "engine");
+    host.calls.RecordReaders(true);
+    host.calls.Record(true);
+
+    view.OnDataItemsSelected(SimpleItems{&tool["saw_1"]}, {&engine}, false);
+    view.OnDataItemsDeselected(SimpleItems{&tool["saw_1"]}, {&engine});
+
+    auto lines = host.calls.take();
+    std::erase_if(lines, [](auto const& line) { return line.find("GetDataSource") == line.npos; });
+    EXPECT_THAT(lines, ElementsAre("saw_1.GetDataSource", "engine.GetDataSource",
+                                   "saw_1.GetDataSource", "engine.GetDataSource"));
+    signals.Discard();
+}
+
 TEST_F(SelectionEventsTest, ARowThatGoesWhenItsFolderOpensIsNeitherSelectedNorShown) {
     Show(a, part);
     signals.Once(&zbBrowserSignalManager::ViewItemExpanded,

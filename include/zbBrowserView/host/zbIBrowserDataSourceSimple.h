@@ -43,15 +43,20 @@ public:
     virtual void ClearDirty(bool dirty) = 0;
 
     //! Appends all items of the source, in the order in which an unsorted view shows them. Called
-    //! when a list is made and each time that it is rebuilt.
+    //! when a list is made, twice when a dirty one is rebuilt, for what has gone and for what is
+    //! new, and when a folder is asked whether its data is empty. Keep the items rather than make
+    //! them anew: an item keeps its address while it lives.
     //! Requires: `out` arrives empty. Each item stands in it once and is not null.
-    //! Failure: false, and `out` is taken as empty; the view then behaves as for an empty source.
-    //! Called once for each list of each view, so keep the items rather than make them anew: an
-    //! item keeps its address while it lives.
+    //! Failure: false, and `out` is not looked at. A list that is made then stays recorded without
+    //! rows, and CreateList answers false; a list that is rebuilt keeps the rows that it has.
     virtual bool GetDataItems(std::vector<zbIBrowserDataItemSimple*>& out) = 0;
 
-    //! Whether `item` is one of the items that GetDataItems would give now. Called once for each
-    //! row when a list is rebuilt; false makes the row go.
+    //! Whether `item` is one of the items that GetDataItems would give now.
+    //!
+    //! Asked of each row when a list is rebuilt: false makes the row go. Asked as well after a slot
+    //! has run, which may have deleted the item, where false passes it over: of each new row of a
+    //! list while ViewItemCreated is heard, of each row of a refresh, and of a new item for each
+    //! further folder and view.
     //! `item` may have been deleted already: compare the pointer with what you hold, in constant
     //! time if you can, and never follow it.
     virtual bool ContainsDataItem(zbIBrowserDataItemSimple* item) = 0;

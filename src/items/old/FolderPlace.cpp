@@ -3,14 +3,14 @@
 
 namespace zbbrowser::detail {
 
-FolderPlace::FolderPlace(FolderPlace* owner)
+FolderPlace::FolderPlace(FolderPlace const* owner, std::uint64_t number)
     : owner_(owner == nullptr ? this : owner)
     , far_(owner == nullptr ? this
            : owner->depth_ - owner->far_->depth_ == owner->far_->depth_ - owner->far_->far_->depth_
                ? owner->far_->far_
                : owner)
     , depth_(owner == nullptr ? 0 : owner->depth_ + 1)
-    , number_(owner == nullptr ? 0 : owner->childrenMade_++) {
+    , number_(number) {
 }
 
 bool FolderPlace::IsBefore(FolderPlace const& other) const {

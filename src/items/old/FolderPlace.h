@@ -17,12 +17,20 @@ namespace zbbrowser::detail {
 class FolderPlace {
 public:
     //! \param owner null for the root
-    explicit FolderPlace(FolderPlace* owner);
+    //! \param number greater than those of all places made before
+    FolderPlace(FolderPlace const* owner, std::uint64_t number);
     FolderPlace(FolderPlace const&) = delete;
     FolderPlace& operator=(FolderPlace const&) = delete;
 
     //! Requires: both are of one tree.
     bool IsBefore(FolderPlace const& other) const;
+    //! It is the other one or below it. Requires: both are of one tree.
+    bool IsWithin(FolderPlace const& other) const {
+        return depth_ >= other.depth_ && RaisedTo(other.depth_) == &other;
+    }
+    //! 0 for the root.
+    std::uint64_t Depth() const { return depth_; }
+    std::uint64_t Number() const { return number_; }
 
 private:
     FolderPlace const* RaisedTo(std::uint64_t depth) const;
@@ -30,8 +38,7 @@ private:
     FolderPlace const* const owner_; // Not owned; that of the root is the root
     FolderPlace const* const far_;   // Not owned; at places of one depth equally far above
     std::uint64_t const depth_;
-    std::uint64_t const number_; // Among the children of the owner
-    std::uint64_t childrenMade_ = 0;
+    std::uint64_t const number_;
 };
 
 } // namespace zbbrowser::detail

@@ -63,6 +63,7 @@ void LeafStore::Take(Leaf& leaf) noexcept {
     index_.Erase(leaf.dataItem_, leaf.slot_);
     slots_.Take(leaf.slot_);
     ++changes_;
+    hasLost_ = orderedEnd_ > 0;
     if (slots_.Slots().size() < orderedEnd_)
         ForgetOrder(); // It was the last one, and all slots have gone
     leaf.listed_ = 0;
@@ -156,6 +157,13 @@ std::size_t LeafStore::CountOf(zbIBrowserDataSource const* source) const {
         return sources_[lastNumber_].count;
     auto const found = sourceNumbers_.find(source);
     return found == sourceNumbers_.end() ? 0 : sources_[found->second].count;
+}
+
+bool LeafStore::IsOf(Leaf const& leaf, zbIBrowserDataSource const* source) const {
+    if (source == lastSource_)
+        return leaf.sourceNumber_ == lastNumber_;
+    auto const found = sourceNumbers_.find(source);
+    return found != sourceNumbers_.end() && found->second == leaf.sourceNumber_;
 }
 
 // One slot in 64 or more: marking them and looking at all marks takes less than sorting.

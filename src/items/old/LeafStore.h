@@ -72,6 +72,8 @@ public:
     std::vector<Leaf*> Snapshot() const;
     std::vector<Leaf*> SnapshotOf(zbIBrowserDataSource const* source) const;
     std::size_t CountOf(zbIBrowserDataSource const* source) const;
+    //! A leaf that is listed here came with that source.
+    bool IsOf(Leaf const& leaf, zbIBrowserDataSource const* source) const;
     //! The leaves of these data items, each once, in the order of the leaves.
     std::vector<Leaf*> FindAll(std::vector<zbIBrowserDataItemSimple*> const& items) const;
 
@@ -79,8 +81,12 @@ public:
     //! The leaves stand in the order in which they came until they are given another one, and what
     //! comes after that stands behind them.
     //! \{
-    //! All are as Reorder left them, or there are none.
+    //! All are as Reorder left them, and none has gone since, or there are none.
     bool IsOrdered() const { return orderedEnd_ == slots_.Slots().size() && !hasLost_; }
+    //! All are as Reorder left them and not known to have changed, though some may have gone.
+    bool AreInPlace() const { return orderedEnd_ == slots_.Slots().size() && loose_.empty(); }
+    //! They are ordered again. Requires: AreInPlace().
+    void NoteOrdered() { hasLost_ = false; }
     //! Those that are as Reorder left them and are not known to have changed, then the others.
     //! Answers how many the former are.
     std::size_t AppendOrderedFirst(std::vector<zbIBrowserViewItem*>& out);
@@ -144,7 +150,7 @@ private:
     Slot orderedEnd_ = 0;     // The slots before it are as Reorder left them
     std::vector<Slot> loose_; // Slots before it that are not, or whose leaves have changed; some
                               // may be empty or come twice
-    bool hasLost_ = false;    // Some of them are not
+    bool hasLost_ = false;    // Some of them are not, or have gone since
     std::size_t changes_ = 0;
 };
 

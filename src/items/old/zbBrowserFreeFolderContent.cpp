@@ -63,7 +63,7 @@ bool zbBrowserFreeFolderContent::RebuildTree(Tree*, bool) {
 }
 void zbBrowserFreeFolderContent::OnDataItemDeletedInTree(zbIBrowserDataItemHierarchical*) {
 }
-void zbBrowserFreeFolderContent::OnDataItemDeleted(zbIBrowserDataItemSimple*, bool) {
+void zbBrowserFreeFolderContent::OnDataItemDeleted(zbIBrowserDataItemSimple*, Simple const*, bool) {
 }
 bool zbBrowserFreeFolderContent::SetGroupCaption(Simple*, zbString const&) {
     return true;

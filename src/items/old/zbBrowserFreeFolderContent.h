@@ -70,7 +70,9 @@ public:
     virtual bool RedrawTree(Tree* tree, bool silent);
     virtual bool RebuildTree(Tree* tree, bool silent);
     virtual void OnDataItemDeletedInTree(zbIBrowserDataItemHierarchical* item);
-    virtual void OnDataItemDeleted(zbIBrowserDataItemSimple* item, bool silent);
+    //! `source` is that of the item, which is not asked any more.
+    virtual void OnDataItemDeleted(zbIBrowserDataItemSimple* item, Simple const* source,
+                                   bool silent);
     virtual bool SetGroupCaption(Simple* source, zbString const& caption);
     virtual bool OnReferenceCreated(zbIBrowserDataItemHierarchical* item, Items& created,
                                     Items& parents);

@@ -36,7 +36,8 @@ private:
 } // namespace
 
 zbBrowserFreeFolderContentNoGrouping::~zbBrowserFreeFolderContentNoGrouping() {
-    leaves_.ForEach([this](Leaf& leaf) { DetachedLeaves::Destroy(leaf, Context()); });
+    if (Context().FreesLeaves())
+        leaves_.ForEach([this](Leaf& leaf) { DetachedLeaves::Destroy(leaf, Context()); });
 }
 
 void zbBrowserFreeFolderContentNoGrouping::MarkDead() {
@@ -61,7 +62,9 @@ bool zbBrowserFreeFolderContentNoGrouping::ConnectList(Simple* source, bool sile
         return false;
     if (items.empty())
         return true;
-    leaves_.Reserve(items.size() - std::min(items.size(), leaves_.CountOf(source)));
+    auto const fresh = items.size() - std::min(items.size(), leaves_.CountOf(source));
+    leaves_.Reserve(fresh);
+    Context().LeafMemory().Reserve(fresh);
     auto const isRebuild = leaves_.CountOf(source) > 0;
     auto const slotsRun = !silent && Context().IsHeard(&zbBrowserSignalManager::ViewItemCreated);
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -165,10 +168,10 @@ bool zbBrowserFreeFolderContentNoGrouping::RedrawList(Simple*) {
     return true;
 }
 
-// The item is compared and not asked for its source: a slot may have freed it when its row in
-// another folder went. Where it has a leaf, its source is one of the lists.
 void zbBrowserFreeFolderContentNoGrouping::OnDataItemDeleted(zbIBrowserDataItemSimple* item,
-                                                             bool silent) {
+                                                             Simple const* source, bool silent) {
+    if (!Lists().Contains(source))
+        return;
     if (auto* const leaf = leaves_.Find(item); leaf != nullptr)
         DeleteLeaf(*leaf, silent);
 }
@@ -212,6 +215,10 @@ bool zbBrowserFreeFolderContentNoGrouping::SortRows() {
     auto* const handler = Context().OldView().GetSortHandlerPtr();
     if (leaves_.IsOrdered() || isSorting_ || handler == nullptr)
         return IsAlive();
+    if (leaves_.AreInPlace() && handler->IsCurrent(sortBasis_, leaves_.Count())) {
+        leaves_.NoteOrdered();
+        return true;
+    }
     RaisedFlag const sorting(isSorting_);
     auto const changesBefore = leaves_.ChangeNumber();
     auto basis = sortBasis_;

@@ -47,7 +47,10 @@ public:
     //! Signals `ViewItemChanged` for every leaf of this content, whatever its source.
     bool RedrawList(Simple* source) override;
 
-    void OnDataItemDeleted(zbIBrowserDataItemSimple* item, bool silent) override;
+    //! Nothing if the source is not one of the lists: the row stays. Signals:
+    //! `ViewItemDeleted(leaf)` unless `silent`.
+    void OnDataItemDeleted(zbIBrowserDataItemSimple* item, Simple const* source,
+                           bool silent) override;
     //! Both fill `found` and `parents` in pairs: the leaf, and the folder.
     void GetViewItems(SimpleItems const& items, Items& found, Items& parents) override;
     void GetViewItems(zbIBrowserDataItemSimple* item, Items& found, Items& parents) override;
@@ -64,7 +67,7 @@ public:
     //! it is sorted into the others.
     void SetUnsorted() override { leaves_.ForgetOrder(); }
     //! What a row is sorted by may have changed. It stays where it is until the others are sorted
-    //! next, for instance since a new one has come; then it finds its place anew.
+    //! next, for instance since one has come or gone; then it finds its place anew.
     void NoteChangedValues(zbBrowserViewItemDataLeaf const& leaf) { leaves_.NoteChanged(leaf); }
     void SelectAll(bool select) override;
     void MarkDead() override;

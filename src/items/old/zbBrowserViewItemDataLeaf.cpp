@@ -35,6 +35,10 @@ void zbBrowserViewItemDataLeaf::SetHidden(bool hidden) {
         Store().NoteHidden(hidden);
 }
 
+bool zbBrowserViewItemDataLeaf::IsOf(zbIBrowserDataSource const* source) const {
+    return Store().IsOf(*this, source);
+}
+
 void zbBrowserViewItemDataLeaf::TakeOutOfStore() {
     Store().Take(*this);
 }

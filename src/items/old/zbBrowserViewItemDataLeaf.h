@@ -10,6 +10,7 @@
 
 class zbBrowserView;
 class zbBrowserViewItemFreeFolder;
+class zbIBrowserDataSource;
 
 namespace zbbrowser::detail {
 class LeafStore;
@@ -58,6 +59,8 @@ public:
 
     //! It stands in its store; false once it has been taken out and is about to go.
     bool IsListed() const { return listed_ != 0; }
+    //! Its data item was of that source when the leaf was made. Calls nobody. Requires: IsListed().
+    bool IsOf(zbIBrowserDataSource const* source) const;
     //! Takes it out; the caller has to free it. Requires: IsListed().
     void TakeOutOfStore();
 

@@ -22,7 +22,7 @@ zbBrowserViewItemFreeFolder::zbBrowserViewItemFreeFolder(OldViewContext& context
     , name_(std::move(name))
     , parent_(owner)
     , owner_(owner)
-    , place_(owner == nullptr ? nullptr : &owner->place_)
+    , place_(owner == nullptr ? nullptr : &owner->place_, context.NextFolderNumber())
     , expanded_(expanded)
     , showWhenEmpty_(owner == nullptr || owner->showWhenEmpty_) {
     context_.RegisterFolder(*this);
