@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! The controller together with real views of both generations.
-#include "control/ItemDoubles.h"
-#include "control/Thrown.h"
+#include "support/ItemDoubles.h"
 #include "support/RecordingHost.h"
 #include "support/SignalRecorder.h"
+#include "support/Thrown.h"
 
 #include <zbBrowserView/View.h>
 #include <zbBrowserView/zbBrowserView.h>

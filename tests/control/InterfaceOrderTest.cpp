@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! The order of virtual operations, which is a part of what hosts are compiled against.
-#include "control/ItemDoubles.h"
+#include "support/ItemDoubles.h"
 #include "support/VirtualOrder.h"
 
 #include <zbBrowserView/View.h>

@@ -3,12 +3,12 @@
 //! Rows without a list, to be sorted.
 #pragma once
 
-#include "control/ItemDoubles.h"
 #include "filtersort/CurrentSortProperty.h"
 #include "filtersort/RowSort.h"
 #include "filtersort/zbBrowserSortHandler.h"
 #include "items/old/zbBrowserViewItemVirtualRoot.h"
 #include "SortTest.h"
+#include "support/ItemDoubles.h"
 #include "view/OldViewContext.h"
 
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>

@@ -3,10 +3,10 @@
 //! What the tests of view properties share.
 #pragma once
 
-#include "control/Thrown.h"
 #include "support/Generations.h"
 #include "support/RecordingHost.h"
 #include "support/RowDoubles.h"
+#include "support/Thrown.h"
 
 #include <zbBrowserView/zbIBrowserStyle.h>
 #include <zbBrowserView/zbIBrowserStyleElement.h>

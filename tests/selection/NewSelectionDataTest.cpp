@@ -2,9 +2,9 @@
 //! \file
 //! The data behind the selection of a new view, whose folders show no data yet: rows that say that
 //! they are of the view stand in for those that it does not make.
-#include "control/ItemDoubles.h"
 #include "selection/SelectionManager.h"
 #include "SelectionTest.h"
+#include "support/ItemDoubles.h"
 #include "view/DataOfItems.h"
 #include "view/NewViewContext.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! The data behind the selection of an old view.
-#include "control/ItemDoubles.h"
 #include "OldSelectionFixture.h"
 #include "selection/zbBrowserSelectionManager.h"
+#include "support/ItemDoubles.h"
 #include "view/OldViewContext.h"
 
 #include <string>

@@ -3,7 +3,7 @@
 //! View items of the kinds that a view cannot make yet.
 #pragma once
 
-#include "control/ItemDoubles.h"
+#include "support/ItemDoubles.h"
 
 #include <vector>
 

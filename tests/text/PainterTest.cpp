@@ -3,8 +3,8 @@
 //! What a painter shows of views of both generations.
 #include "text/Painter.h"
 
-#include "control/ItemDoubles.h"
 #include "support/Generations.h"
+#include "support/ItemDoubles.h"
 
 #include <zbBrowserView/zbIBrowserStyle.h>
 #include <zbBrowserView/zbIBrowserStyleElement.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! How the view of the new generation tests the folders and items that it is given.
-#include "control/ItemDoubles.h"
 #include "NewViewTest.h"
+#include "support/ItemDoubles.h"
 
 namespace zbtest {
 namespace {

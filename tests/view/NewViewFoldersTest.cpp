@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //! \file
 //! Free folders of a new view: the root, making folders, their settings, order and paths.
-#include "control/ItemDoubles.h"
 #include "NewViewTest.h"
+#include "support/ItemDoubles.h"
 #include "support/SignalRecorder.h"
 
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>

@@ -3,8 +3,8 @@
 //! A view of the new generation in a recording host.
 #pragma once
 
-#include "control/Thrown.h"
 #include "support/RecordingHost.h"
+#include "support/Thrown.h"
 
 #include <zbBrowserView/View.h>
 #include <zbBrowserView/zbIBrowserViewItemFreeFolder.h>

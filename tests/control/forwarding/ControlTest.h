@@ -3,12 +3,12 @@
 //! A controller whose views only report what is called on them.
 #pragma once
 
-#include "control/ItemDoubles.h"
-#include "control/Thrown.h"
 #include "RecordedView.h"
 #include "support/AllocationFailures.h"
+#include "support/ItemDoubles.h"
 #include "support/RecordingHostControl.h"
 #include "support/RecordingHostGui.h"
+#include "support/Thrown.h"
 
 #include <zbBrowserView/host/zbBrowserSignalManager.h>
 #include <zbBrowserView/View.h>
