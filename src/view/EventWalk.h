@@ -14,14 +14,12 @@
 namespace zbbrowser::detail {
 
 //! Gives an event to each folder that is not busy, the holders being made where they are missing.
-//! The folder is busy while it and the folders below it work on the event. Folders that a slot
-//! makes meanwhile do not hear it: it would not end if there were one more for each that has heard.
+//! The folder is busy while it and the folders below it work on the event.
 //! Requires: an open CallScope.
 template <class Event>
 void WalkContents(zbBrowserViewItemFreeFolder& top, Event event) {
-    auto const made = top.Context().FoldersMade();
     auto const enter = [&](zbBrowserViewItemFreeFolder& folder) {
-        if (folder.IsBusy() || folder.Place().Number() >= made)
+        if (folder.IsBusy())
             return false;
         folder.SetBusy(true);
         event(folder.RequireHolder());

@@ -284,6 +284,30 @@ TEST_F(EventWalkTest, ARefreshPassesOverFoldersThatASlotMakesMeanwhile) {
     signals.Discard();
 }
 
+TEST_F(EventWalkTest, ARebuildEndsThoughTheHostMakesAFolderEachTimeItBeginsOne) {
+    Show(c, tool);
+    tool.dirty = true;
+    constexpr int endless = 1000;
+    int made = 0;
+    bool isMaking = false;
+    zbIBrowserViewItemFreeFolder* last = &d;
+    host.calls.On("BeginLongOperation", [&] {
+        if (isMaking || made == endless) {
+            return;
+        }
+        isMaking = true;
+        ++made;
+        view.CreateFreeFolder(last, "made");
+        last = last->FindChildFreeFolder("made");
+        isMaking = false;
+    });
+
+    view.OnAllDirtyDataListsRebuild();
+
+    EXPECT_LT(made, endless);
+    signals.Discard();
+}
+
 TEST_F(EventWalkTest, AfterASlotHasRunAFolderAsksTheSourceForTheItemFirst) {
     auto& hidden = part.Add("hidden_3");
     part.Unlist(hidden);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "items/old/zbBrowserViewItemFreeFolder.h"
+#include "view/OldViewContext.h"
 
 #include <type_traits>
 #include <vector>
@@ -14,8 +15,9 @@ namespace zbbrowser::detail {
 //! comes before the child folders and `leave(folder)` after them; if enter answers false, the
 //! folder is neither gone into nor left.
 //!
-//! Both may call the host, which may add and delete folders: a folder that went before its turn is
-//! passed over, and one that goes while it is entered is not left.
+//! Both may call the host, which may add and delete folders: one that was made after the walk began
+//! or went before its turn is passed over, and one that goes while it is entered is not left. (With
+//! a new folder for each that is entered the walk would not end.)
 //! Requires: an open CallScope, so that no folder is freed under the walk.
 //!
 //! The walk keeps a stack of its own, since folders may be nested a hundred thousand deep.
@@ -27,6 +29,7 @@ void WalkFolders(Folder& top, Enter enter, Leave leave) {
         Node* folder;
         bool entered;
     };
+    auto const made = top.Context().FoldersMade();
     std::vector<Step> steps{{&top, false}};
     while (!steps.empty()) {
         auto const step = steps.back();
@@ -46,7 +49,7 @@ void WalkFolders(Folder& top, Enter enter, Leave leave) {
         }
         auto const& children = step.folder->ChildFolders();
         for (auto child = children.rbegin(); child != children.rend(); ++child) {
-            if (*child != nullptr)
+            if (*child != nullptr && (*child)->Place().Number() < made)
                 steps.push_back({child->get(), false});
         }
     }
