@@ -13,9 +13,19 @@ namespace zbbrowser::detail {
 LeafStore::Leaf* LeafStore::Find(zbIBrowserDataItemSimple const* item) const {
     if (item == nullptr || !IsIndexInStep())
         return nullptr;
-    auto const slot =
-        index_.Find(item, [&](Slot candidate) { return slots_[candidate]->dataItem_ == item; });
+    auto const slot = SlotOf(item);
     return slot == PointerIndex::none ? nullptr : slots_[slot];
+}
+
+LeafStore::Slot LeafStore::SlotOf(zbIBrowserDataItemSimple const* item) const {
+    return index_.Find(item, [&](Slot candidate) { return slots_[candidate]->dataItem_ == item; });
+}
+
+// Two items rarely share the hash.
+LeafStore::Slot LeafStore::Confirmed(Slot guess, zbIBrowserDataItemSimple const* item) const {
+    if (guess == PointerIndex::none || slots_[guess]->dataItem_ == item)
+        return guess;
+    return SlotOf(item);
 }
 
 // What is needed one after the other is asked for one after the other, each for a later item.
@@ -185,15 +195,29 @@ void LeafStore::SortUnique(std::vector<Slot>& slots) const {
     }
 }
 
+// Of each item the index is asked once, and what it answers is looked at when memory has had time
+// to bring it: first the place in the list, then the leaf.
 std::vector<LeafStore::Leaf*>
 LeafStore::FindAll(std::vector<zbIBrowserDataItemSimple*> const& items) const {
-    std::vector<Slot> slots;
-    slots.reserve(items.size());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        PrefetchFind(items, i);
-        if (auto const* const leaf = Find(items[i]); leaf != nullptr)
-            slots.push_back(leaf->slot_);
+    if (!IsIndexInStep())
+        return {};
+    std::vector<Slot> slots(items.size(), PointerIndex::none);
+    for (std::size_t i = 0; i < items.size() + 3 * prefetchDistance; ++i) {
+        if (i < items.size())
+            index_.Prefetch(items[i]);
+        if (auto const k = i - prefetchDistance; k < items.size()) {
+            slots[k] = index_.Guess(items[k]);
+            if (slots[k] != PointerIndex::none)
+                Prefetch(&slots_[slots[k]]);
+        }
+        if (auto const k = i - 2 * prefetchDistance; k < items.size()) {
+            if (slots[k] != PointerIndex::none)
+                Prefetch(slots_[slots[k]]);
+        }
+        if (auto const k = i - 3 * prefetchDistance; k < items.size())
+            slots[k] = Confirmed(slots[k], items[k]);
     }
+    std::erase(slots, PointerIndex::none);
     SortUnique(slots);
     std::vector<Leaf*> found(slots.size());
     std::transform(slots.begin(), slots.end(), found.begin(),

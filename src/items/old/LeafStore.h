@@ -130,6 +130,9 @@ private:
     // alternate would cost a run for each leaf.
     static constexpr Slot bridgedSlots = 8;
 
+    //! None if the item has no leaf. Requires: the index is in step.
+    Slot SlotOf(zbIBrowserDataItemSimple const* item) const;
+    Slot Confirmed(Slot guess, zbIBrowserDataItemSimple const* item) const;
     std::uint32_t NumberOf(zbIBrowserDataSource const* source);
     void SortUnique(std::vector<Slot>& slots) const;
     void AppendSlots(Slot from, Slot to, std::vector<zbIBrowserViewItem*>& out) const;
