@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "items/old/LeafStore.h"
 
-#include "containers/Prefetch.h"
-
 #include <algorithm>
 #include <bit>
 #include <iterator>
@@ -13,31 +11,46 @@ namespace zbbrowser::detail {
 LeafStore::Leaf* LeafStore::Find(zbIBrowserDataItemSimple const* item) const {
     if (item == nullptr || !IsIndexInStep())
         return nullptr;
-    auto const slot = SlotOf(item);
+    auto const slot =
+        index_.Find(item, [&](Slot candidate) { return slots_[candidate]->dataItem_ == item; });
     return slot == PointerIndex::none ? nullptr : slots_[slot];
 }
 
-LeafStore::Slot LeafStore::SlotOf(zbIBrowserDataItemSimple const* item) const {
-    return index_.Find(item, [&](Slot candidate) { return slots_[candidate]->dataItem_ == item; });
+LeafStore::Search::Search(LeafStore const& store, Items const& items)
+    : store_(store)
+    , items_(items) {
 }
 
-// Two items rarely share the hash.
-LeafStore::Slot LeafStore::Confirmed(Slot guess, zbIBrowserDataItemSimple const* item) const {
-    if (guess == PointerIndex::none || slots_[guess]->dataItem_ == item)
-        return guess;
-    return SlotOf(item);
+// With the same leaves as when it was guessed, a guess is nearly always right: two items rarely
+// share the hash.
+LeafStore::Leaf* LeafStore::Search::Find(std::size_t i) {
+    while (next_ <= i + 3 * prefetchDistance)
+        LookAhead(next_++);
+    auto const& guess = guesses_[i % guesses_.size()];
+    if (guess.changes != store_.changes_ || !store_.IsIndexInStep())
+        return store_.Find(items_[i]);
+    if (guess.slot == PointerIndex::none)
+        return nullptr;
+    auto* const leaf = store_.slots_[guess.slot];
+    return leaf->dataItem_ == items_[i] ? leaf : store_.Find(items_[i]);
 }
 
-// What is needed one after the other is asked for one after the other, each for a later item.
-void LeafStore::PrefetchFind(std::vector<zbIBrowserDataItemSimple*> const& items,
-                             std::size_t i) const {
-    if (i + 3 * prefetchDistance >= items.size())
-        return;
-    index_.Prefetch(items[i + 3 * prefetchDistance]);
-    if (auto const slot = index_.Guess(items[i + 2 * prefetchDistance]); slot != PointerIndex::none)
-        Prefetch(&slots_[slot]);
-    if (auto const slot = index_.Guess(items[i + prefetchDistance]); slot != PointerIndex::none)
-        Prefetch(slots_[slot]);
+// Of three items a different thing each. (What would be before the first one is behind the last.)
+void LeafStore::Search::LookAhead(std::size_t i) {
+    auto const count = items_.size();
+    if (i < count)
+        store_.index_.Prefetch(items_[i]);
+    if (auto const k = i - prefetchDistance; k < count) {
+        auto const slot = store_.index_.Guess(items_[k]);
+        guesses_[k % guesses_.size()] = {slot, store_.changes_};
+        if (slot != PointerIndex::none)
+            Prefetch(&store_.slots_[slot]);
+    }
+    if (auto const k = i - 2 * prefetchDistance; k < count) {
+        auto const& guess = guesses_[k % guesses_.size()];
+        if (guess.slot != PointerIndex::none && guess.changes == store_.changes_)
+            Prefetch(store_.slots_[guess.slot]);
+    }
 }
 
 void LeafStore::Reserve(std::size_t count) {
@@ -195,29 +208,15 @@ void LeafStore::SortUnique(std::vector<Slot>& slots) const {
     }
 }
 
-// Of each item the index is asked once, and what it answers is looked at when memory has had time
-// to bring it: first the place in the list, then the leaf.
 std::vector<LeafStore::Leaf*>
 LeafStore::FindAll(std::vector<zbIBrowserDataItemSimple*> const& items) const {
-    if (!IsIndexInStep())
-        return {};
-    std::vector<Slot> slots(items.size(), PointerIndex::none);
-    for (std::size_t i = 0; i < items.size() + 3 * prefetchDistance; ++i) {
-        if (i < items.size())
-            index_.Prefetch(items[i]);
-        if (auto const k = i - prefetchDistance; k < items.size()) {
-            slots[k] = index_.Guess(items[k]);
-            if (slots[k] != PointerIndex::none)
-                Prefetch(&slots_[slots[k]]);
-        }
-        if (auto const k = i - 2 * prefetchDistance; k < items.size()) {
-            if (slots[k] != PointerIndex::none)
-                Prefetch(slots_[slots[k]]);
-        }
-        if (auto const k = i - 3 * prefetchDistance; k < items.size())
-            slots[k] = Confirmed(slots[k], items[k]);
+    std::vector<Slot> slots;
+    slots.reserve(items.size());
+    Search search(*this, items);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (auto const* const leaf = search.Find(i); leaf != nullptr)
+            slots.push_back(leaf->slot_);
     }
-    std::erase(slots, PointerIndex::none);
     SortUnique(slots);
     std::vector<Leaf*> found(slots.size());
     std::transform(slots.begin(), slots.end(), found.begin(),

@@ -4,9 +4,11 @@
 #pragma once
 
 #include "containers/PointerIndex.h"
+#include "containers/Prefetch.h"
 #include "containers/SlotVector.h"
 #include "items/old/zbBrowserViewItemDataLeaf.h"
 
+#include <array>
 #include <unordered_map>
 #include <vector>
 
@@ -36,8 +38,7 @@ public:
     //! The leaf of a data item; null if there is none or the index is out of step.
     Leaf* Find(zbIBrowserDataItemSimple const* item) const;
     void PrefetchFind(zbIBrowserDataItemSimple const* item) const { index_.Prefetch(item); }
-    //! For a loop that is at `i` and finds most of the items.
-    void PrefetchFind(std::vector<zbIBrowserDataItemSimple*> const& items, std::size_t i) const;
+    class Search;
 
     //! Makes room for `count` further leaves.
     void Reserve(std::size_t count);
@@ -130,9 +131,6 @@ private:
     // alternate would cost a run for each leaf.
     static constexpr Slot bridgedSlots = 8;
 
-    //! None if the item has no leaf. Requires: the index is in step.
-    Slot SlotOf(zbIBrowserDataItemSimple const* item) const;
-    Slot Confirmed(Slot guess, zbIBrowserDataItemSimple const* item) const;
     std::uint32_t NumberOf(zbIBrowserDataSource const* source);
     void SortUnique(std::vector<Slot>& slots) const;
     void AppendSlots(Slot from, Slot to, std::vector<zbIBrowserViewItem*>& out) const;
@@ -155,6 +153,32 @@ private:
                               // may be empty or come twice
     bool hasLost_ = false;    // Some of them are not, or have gone since
     std::size_t changes_ = 0;
+};
+
+//! Finds the leaves of many data items in turn. What memory has to bring for an item is asked for
+//! while those before it are looked at: its entry in the index, its place in the list, the leaf.
+class LeafStore::Search {
+public:
+    using Items = std::vector<zbIBrowserDataItemSimple*>;
+
+    //! Both must outlive the search, and the items stay as they are. The store may change.
+    Search(LeafStore const& store, Items const& items);
+
+    //! The same as the store's Find of items[i]. To be called for 0, 1 and so on.
+    Leaf* Find(std::size_t i);
+
+private:
+    struct Guess {
+        Slot slot = PointerIndex::none;
+        std::size_t changes = 0; // Of the store, until then
+    };
+
+    void LookAhead(std::size_t i);
+
+    LeafStore const& store_;
+    Items const& items_;
+    std::array<Guess, 4 * prefetchDistance> guesses_; // Of the items that come next, in a ring
+    std::size_t next_ = 0;
 };
 
 } // namespace zbbrowser::detail

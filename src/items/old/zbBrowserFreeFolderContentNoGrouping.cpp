@@ -15,6 +15,7 @@
 
 using zbbrowser::detail::BeginLongOperation;
 using zbbrowser::detail::DetachedLeaves;
+using zbbrowser::detail::LeafStore;
 using zbbrowser::detail::Prefetch;
 using zbbrowser::detail::prefetchDistance;
 
@@ -67,12 +68,12 @@ bool zbBrowserFreeFolderContentNoGrouping::ConnectList(Simple* source, bool sile
     Context().LeafMemory().Reserve(fresh);
     auto const isRebuild = leaves_.CountOf(source) > 0;
     auto const slotsRun = !silent && Context().IsHeard(&zbBrowserSignalManager::ViewItemCreated);
+    LeafStore::Search search(leaves_, items);
     for (std::size_t i = 0; i < items.size(); ++i) {
-        if (isRebuild)
-            leaves_.PrefetchFind(items, i);
-        else if (i + prefetchDistance < items.size())
+        if (!isRebuild && i + prefetchDistance < items.size())
             leaves_.PrefetchFind(items[i + prefetchDistance]);
-        if (items[i] == nullptr || leaves_.Find(items[i]) != nullptr)
+        auto const* const known = isRebuild ? search.Find(i) : leaves_.Find(items[i]);
+        if (items[i] == nullptr || known != nullptr)
             continue;
         auto const isDone = slotsRun ? CreateLeafIfContained(*source, items[i])
                                      : CreateLeaf(*items[i], source, silent) != nullptr;
